@@ -1,0 +1,34 @@
+# Compiler settings that hold for every target of the project.
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+set(CMAKE_CXX_VISIBILITY_PRESET hidden)
+set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
+set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/bin)
+set(CMAKE_LIBRARY_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/bin)
+set(CMAKE_ARCHIVE_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/lib)
+
+# Which implementations of the platform services are built: src/platform/<KW_SYSTEM>.
+if(WIN32)
+  set(KW_SYSTEM windows)
+else()
+  set(KW_SYSTEM linux)
+endif()
+
+add_library(kw_options INTERFACE)
+target_compile_options(kw_options INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Werror)
+if(KW_SANITIZE)
+  # vptr checks read the type information of C++ vtables; automation objects have none.
+  target_compile_options(kw_options INTERFACE
+    -fsanitize=address,undefined -fno-sanitize=vptr -fno-sanitize-recover=all
+    -fno-omit-frame-pointer -g)
+  target_link_options(kw_options INTERFACE -fsanitize=address,undefined)
+endif()
+if(KW_FUZZ)
+  target_compile_options(kw_options INTERFACE -fsanitize=fuzzer-no-link)
+endif()
+if(KW_COVERAGE)
+  target_compile_options(kw_options INTERFACE --coverage -O0 -g)
+  target_link_options(kw_options INTERFACE --coverage)
+endif()

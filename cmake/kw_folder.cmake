@@ -1,0 +1,38 @@
+# kw_folder(NAME SOURCES file... [PUBLIC header...] [LINKS folder...])
+#
+# Makes the static library kw_<NAME> of one folder under src/. Whoever links it can include
+# "<NAME>/..." (the folder's own headers) and those headers of include/kwutils that are named after
+# PUBLIC, and nothing else: an include that does not follow the links does not compile.
+function(kw_folder name)
+  cmake_parse_arguments(arg "" "" "SOURCES;PUBLIC;LINKS" ${ARGN})
+  set(view ${PROJECT_BINARY_DIR}/include/${name})
+  file(MAKE_DIRECTORY ${view}/kwutils)
+  file(CREATE_LINK ${CMAKE_CURRENT_SOURCE_DIR} ${view}/${name} SYMBOLIC)
+  foreach(header IN LISTS arg_PUBLIC)
+    if(IS_ABSOLUTE ${header})
+      cmake_path(GET header FILENAME base)
+      set(source ${header})
+    else()
+      set(base ${header})
+      set(source ${PROJECT_SOURCE_DIR}/include/kwutils/${header})
+    endif()
+    file(CREATE_LINK ${source} ${view}/kwutils/${base} SYMBOLIC)
+    set_property(GLOBAL APPEND PROPERTY KW_PUBLIC_HEADERS ${source})
+  endforeach()
+  add_library(kw_${name} STATIC ${arg_SOURCES})
+  target_include_directories(kw_${name} PUBLIC $<BUILD_INTERFACE:${view}>)
+  target_link_libraries(kw_${name} PRIVATE kw_options)
+  foreach(link IN LISTS arg_LINKS)
+    target_link_libraries(kw_${name} PUBLIC kw_${link})
+  endforeach()
+  set_property(GLOBAL APPEND PROPERTY KW_FOLDERS ${name})
+endfunction()
+
+# kw_test(NAME SOURCES file... [LINKS folder-or-target...]): one GoogleTest program and one CTest entry.
+function(kw_test name)
+  cmake_parse_arguments(arg "" "" "SOURCES;LINKS" ${ARGN})
+  add_executable(${name} ${arg_SOURCES})
+  target_link_libraries(${name} PRIVATE kw_options GTest::gtest_main ${arg_LINKS})
+  target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR}/tests)
+  add_test(NAME ${name} COMMAND ${name} WORKING_DIRECTORY ${PROJECT_BINARY_DIR})
+endfunction()
