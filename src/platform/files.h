@@ -33,7 +33,8 @@ class InputFile {
   virtual std::int64_t size_hint() = 0;
 };
 
-// A file open for writing, buffered. Once a call has failed, every later call fails in the same way.
+// A file open for writing, buffered. Once a call has failed, every later call fails in the same
+// way.
 class OutputFile {
  public:
   // Without close() what is buffered is written as well as it can be, and nothing is reported.

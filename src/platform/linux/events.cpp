@@ -1,0 +1,12 @@
+#include "platform/events.h"
+
+#include "platform/host_functions.h"
+
+namespace kw::platform {
+
+void process_events() {
+  const HostFunctions& host = host_functions();
+  if (host.process_events != nullptr) host.process_events(host.context);
+}
+
+}  // namespace kw::platform
