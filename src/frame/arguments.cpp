@@ -1,0 +1,45 @@
+#include "frame/arguments.h"
+
+namespace kw::frame {
+namespace {
+
+bool left_out(const VARIANT& value) {
+  return value.vt == kVtError && value.scode == status::kParameterNotFound;
+}
+
+}  // namespace
+
+HRESULT Arguments::place(std::size_t position, const DISPPARAMS& sent,
+                         std::uint32_t index) noexcept {
+  if (position >= method_->parameters.size() || by_position_[position] != nullptr)
+    return status::kParameterNotFound;
+  sent_index_[position] = index;
+  if (!left_out(sent.rgvarg[index])) by_position_[position] = &sent.rgvarg[index];
+  return status::kOk;
+}
+
+HRESULT Arguments::sort(const Method& method, const DISPPARAMS& sent,
+                        std::uint32_t* bad_argument) noexcept {
+  method_ = &method;
+  const std::size_t expected = method.parameters.size();
+  if (sent.cArgs > expected || sent.cNamedArgs > sent.cArgs) return status::kBadParameterCount;
+  for (std::uint32_t i = 0; i < sent.cArgs; ++i) {
+    const bool named = i < sent.cNamedArgs;
+    const std::size_t position =
+        named ? static_cast<std::size_t>(static_cast<std::uint32_t>(sent.rgdispidNamedArgs[i]))
+              : sent.cArgs - 1 - i;
+    const HRESULT placed = place(position, sent, i);
+    if (placed == status::kOk) continue;
+    if (bad_argument != nullptr) *bad_argument = i;
+    return placed;
+  }
+  for (std::size_t i = 0; i < expected; ++i) {
+    if (by_position_[i] != nullptr || method.parameters[i].optional) continue;
+    if (sent.cNamedArgs == 0 && sent.cArgs <= i) return status::kBadParameterCount;
+    if (bad_argument != nullptr) *bad_argument = sent_index_[i];
+    return status::kParameterNotOptional;
+  }
+  return status::kOk;
+}
+
+}  // namespace kw::frame

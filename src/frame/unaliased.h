@@ -1,0 +1,82 @@
+// Callers may give one variable for several parameters. A text that a method only reads must then
+// not change under its eyes while the method changes the variable: it is copied before the call.
+#pragma once
+
+#include <string_view>
+#include <type_traits>
+
+#include "frame/kind.h"
+
+namespace kw::frame {
+
+// The variables of one call that the method may change.
+class ChangedTexts {
+ public:
+  template <class P>
+  void note(P&& native) {
+    if constexpr (std::is_same_v<P, String&>) variables_[count_++] = &native;
+  }
+  bool holds(const char16_t* text) const noexcept {
+    for (std::size_t i = 0; i < count_; ++i)
+      if (variables_[i]->get() == text && text != nullptr) return true;
+    return false;
+  }
+
+ private:
+  const String* variables_[16];
+  std::size_t count_ = 0;
+};
+
+// Hands one native argument on; texts that are only read, as copies where they have to be.
+template <class P>
+class Unaliased {
+ public:
+  Unaliased(P native, const ChangedTexts&) : native_(static_cast<P>(native)) {}
+  P get() { return static_cast<P>(native_); }
+
+ private:
+  P native_;
+};
+
+template <>
+class Unaliased<std::u16string_view> {
+ public:
+  Unaliased(std::u16string_view native, const ChangedTexts& changed) : native_(native) {
+    if (changed.holds(native.data())) native_ = copy_ = String(native);
+  }
+  std::u16string_view get() { return native_; }
+
+ private:
+  String copy_;
+  std::u16string_view native_;
+};
+
+template <>
+class Unaliased<const String&> {
+ public:
+  Unaliased(const String& native, const ChangedTexts& changed) : native_(&native) {
+    if (!changed.holds(native.get())) return;
+    copy_ = native.copy();
+    native_ = &copy_;
+  }
+  const String& get() { return *native_; }
+
+ private:
+  String copy_;
+  const String* native_;
+};
+
+// Calls `method` of `instance` with native arguments that may alias each other.
+template <auto Method, class T, class... P>
+decltype(auto) call_unaliased(T& instance, P... natives) {
+  constexpr bool kChangesTexts = (std::is_same_v<P, String&> || ...);
+  if constexpr (kChangesTexts && sizeof...(P) > 1) {
+    ChangedTexts changed;
+    (changed.note<P>(static_cast<P>(natives)), ...);
+    return (instance.*Method)(Unaliased<P>(static_cast<P>(natives), changed).get()...);
+  } else {
+    return (instance.*Method)(static_cast<P>(natives)...);
+  }
+}
+
+}  // namespace kw::frame
