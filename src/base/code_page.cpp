@@ -3,6 +3,8 @@
 #include <cstddef>
 #include <cstring>
 
+#include "base/code_units.h"
+
 namespace kw {
 namespace {
 
@@ -21,40 +23,43 @@ constexpr auto upper_half_1252() {
 
 constexpr CodePage kPage1252(upper_half_1252());
 
-// Bytes are widened, and code units narrowed, in runs of this many: enough for the compiler's
-// vector code, few enough that one unusual character costs little.
-constexpr std::size_t kRun = 64;
-constexpr std::size_t kWord = sizeof(std::uint64_t);
-constexpr std::uint64_t kOnes = 0x0101'0101'0101'0101;
+// What the vector code takes at a time; the end of a longer text is one more run, which overlaps
+// the one before it.
+constexpr std::size_t kRun = 16;
+using Bytes = signed char __attribute__((vector_size(kRun)));
+using OwnBytes = unsigned char __attribute__((vector_size(kRun)));
+using Units = char16_t __attribute__((vector_size(2 * kRun)));
+using Words = std::uint64_t __attribute__((vector_size(kRun)));
 
-// Whether every byte of a run stands for the character of its own number. Those are the ASCII bytes
-// and, in pages that are Latin 1 there (`above_9f` is then all ones), the bytes from A0.
-bool is_plain(const char* bytes, std::uint64_t above_9f) noexcept {
-  std::uint64_t special = 0;
-  for (std::size_t at = 0; at < kRun; at += kWord) {
-    std::uint64_t word;
-    std::memcpy(&word, bytes + at, kWord);
-    special |= word & ~((word << 1 | word << 2) & above_9f);
-  }
-  return (special & kOnes * 0x80) == 0;
-}
+// A byte is plain when it stands for the character of its own number: ASCII and, in pages that are
+// Latin 1 there, A0 to FF. As signed numbers the others are those below this one.
+signed char least_plain(const CodePage& page) noexcept { return page.is_latin_1() ? -0x60 : 0; }
 
-void widen_plain(const char* bytes, char16_t* out) noexcept {
-  for (std::size_t at = 0; at < kRun; ++at) out[at] = static_cast<unsigned char>(bytes[at]);
+// Widens a run and gives true when all its bytes are plain; else does nothing.
+bool widen_plain(const char* from, char16_t* to, signed char least) noexcept {
+  Bytes bytes;
+  std::memcpy(&bytes, from, sizeof bytes);
+  const Words special = reinterpret_cast<Words>(bytes < least);
+  if ((special[0] | special[1]) != 0) return false;
+  const Units units = __builtin_convertvector(reinterpret_cast<OwnBytes>(bytes), Units);
+  std::memcpy(to, &units, sizeof units);
+  return true;
 }
 
 void widen_any(const CodePage& page, std::string_view bytes, char16_t* out) noexcept {
   for (const char byte : bytes) *out++ = page.decode(static_cast<unsigned char>(byte));
 }
 
-bool is_ascii(const char16_t* units) noexcept {
-  unsigned all = 0;
-  for (std::size_t at = 0; at < kRun; ++at) all |= units[at];
-  return all < 0x80;
-}
-
-void narrow_ascii(const char16_t* units, char* out) noexcept {
-  for (std::size_t at = 0; at < kRun; ++at) out[at] = static_cast<char>(units[at]);
+// Narrows a run and gives true when it is ASCII throughout; else does nothing.
+bool narrow_ascii(const char16_t* from, char* to) noexcept {
+  Units units;
+  std::memcpy(&units, from, sizeof units);
+  std::uint64_t words[4];
+  std::memcpy(words, from, sizeof words);
+  if (!detail::is_ascii(words[0] | words[1] | words[2] | words[3])) return false;
+  const OwnBytes bytes = __builtin_convertvector(units, OwnBytes);
+  std::memcpy(to, &bytes, sizeof bytes);
+  return true;
 }
 
 // False when the page lacks a character, which is then written as "?".
@@ -68,17 +73,28 @@ bool narrow_any(const CodePage& page, std::u16string_view units, char* out) noex
   return complete;
 }
 
+// Calls run(position) for runs that cover a text of `size`, or whole(size) when that is less than
+// one.
+template <class Run, class Whole>
+void for_runs(std::size_t size, Run run, Whole whole) noexcept {
+  if (size < kRun) return whole(size);
+  for (std::size_t at = 0; at + kRun < size; at += kRun) run(at);
+  run(size - kRun);
+}
+
 bool narrow_to(std::u16string_view text, char* out) noexcept {
   const CodePage& page = code_page();
   bool complete = true;
-  for (; text.size() >= kRun; text.remove_prefix(kRun), out += kRun) {
-    if (is_ascii(text.data())) {
-      narrow_ascii(text.data(), out);
-    } else {
-      complete = narrow_any(page, text.substr(0, kRun), out) && complete;
-    }
-  }
-  return narrow_any(page, text, out) && complete;
+  const auto any = [&](std::size_t at, std::size_t size) {
+    complete = narrow_any(page, text.substr(at, size), out + at) && complete;
+  };
+  for_runs(
+      text.size(),
+      [&](std::size_t at) {
+        if (!narrow_ascii(text.data() + at, out + at)) any(at, kRun);
+      },
+      [&](std::size_t size) { any(0, size); });
+  return complete;
 }
 
 }  // namespace
@@ -93,15 +109,15 @@ const CodePage& code_page_1252() noexcept { return kPage1252; }
 
 void widen(std::string_view bytes, char16_t* out) noexcept {
   const CodePage& page = code_page();
-  const std::uint64_t above_9f = page.is_latin_1() ? ~std::uint64_t{0} : 0;
-  for (; bytes.size() >= kRun; bytes.remove_prefix(kRun), out += kRun) {
-    if (is_plain(bytes.data(), above_9f)) {
-      widen_plain(bytes.data(), out);
-    } else {
-      widen_any(page, bytes.substr(0, kRun), out);
-    }
-  }
-  widen_any(page, bytes, out);
+  const signed char least = least_plain(page);
+  for_runs(
+      bytes.size(),
+      [&](std::size_t at) {
+        if (!widen_plain(bytes.data() + at, out + at, least)) {
+          widen_any(page, bytes.substr(at, kRun), out + at);
+        }
+      },
+      [&](std::size_t size) { widen_any(page, bytes.substr(0, size), out); });
 }
 
 std::u16string widen(std::string_view bytes) {
