@@ -8,6 +8,8 @@ set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
 set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/bin)
 set(CMAKE_LIBRARY_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/bin)
 set(CMAKE_ARCHIVE_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/lib)
+# Programs find the shared libraries beside them, also after the build folder has been moved.
+set(CMAKE_BUILD_RPATH_USE_ORIGIN ON)
 
 # Which implementations of the platform services are built: src/platform/<KW_SYSTEM>.
 if(WIN32)

@@ -1,0 +1,107 @@
+// Objects for the tests of the automation functions: they count their references on the stack.
+#pragma once
+
+#include "kwutils/automation.h"
+
+namespace kw::test {
+
+// An object with a default value (its dispatch number 0), or without one.
+class ValueObject final : public IDispatch {
+ public:
+  ValueObject() = default;
+  explicit ValueObject(const VARIANT& value) { set_value(value); }
+
+  // Borrows what the value holds.
+  void set_value(const VARIANT& value) {
+    value_ = value;
+    has_value_ = true;
+  }
+
+  std::uint32_t references = 1;
+  std::uint32_t reads = 0;
+
+  HRESULT KW_STDCALL QueryInterface(const GUID& iid, void** object) override {
+    *object = nullptr;
+    if (iid != kIidUnknown && iid != kIidDispatch) return status::kNoInterface;
+    *object = static_cast<IDispatch*>(this);
+    AddRef();
+    return status::kOk;
+  }
+  std::uint32_t KW_STDCALL AddRef() override { return ++references; }
+  std::uint32_t KW_STDCALL Release() override { return --references; }
+
+  HRESULT KW_STDCALL GetTypeInfoCount(std::uint32_t* count) override {
+    *count = 0;
+    return status::kOk;
+  }
+  HRESULT KW_STDCALL GetTypeInfo(std::uint32_t, LCID, ITypeInfo**) override {
+    return status::kNotImplemented;
+  }
+  HRESULT KW_STDCALL GetIDsOfNames(const GUID&, OLECHAR**, std::uint32_t, LCID, DISPID*) override {
+    return status::kUnknownName;
+  }
+  HRESULT KW_STDCALL Invoke(DISPID member, const GUID&, LCID, std::uint16_t flags, DISPPARAMS*,
+                            VARIANT* result, EXCEPINFO*, std::uint32_t*) override {
+    ++reads;
+    if (member != kDispidValue || !(flags & kDispatchPropertyGet) || !has_value_) {
+      return status::kMemberNotFound;
+    }
+    return VariantCopy(result, &value_);
+  }
+
+ private:
+  VARIANT value_{};
+  bool has_value_ = false;
+};
+
+inline VARIANT variant_of(std::int32_t value) {
+  VARIANT made{};
+  made.vt = kVtI4;
+  made.lVal = value;
+  return made;
+}
+
+inline VARIANT variant_of(double value) {
+  VARIANT made{};
+  made.vt = kVtR8;
+  made.dblVal = value;
+  return made;
+}
+
+inline VARIANT variant_of(float value) {
+  VARIANT made{};
+  made.vt = kVtR4;
+  made.fltVal = value;
+  return made;
+}
+
+inline VARIANT variant_of(bool value) {
+  VARIANT made{};
+  made.vt = kVtBool;
+  made.boolVal = value ? kVariantTrue : kVariantFalse;
+  return made;
+}
+
+inline VARIANT variant_of(const char16_t* text) {
+  VARIANT made{};
+  made.vt = kVtBstr;
+  made.bstrVal = SysAllocString(text);
+  return made;
+}
+
+inline VARIANT variant_of(IDispatch* object) {
+  VARIANT made{};
+  made.vt = kVtDispatch;
+  made.pdispVal = object;
+  if (object != nullptr) object->AddRef();
+  return made;
+}
+
+inline VARIANT reference_to(VARTYPE kind, void* target) {
+  VARIANT made{};
+  made.vt = static_cast<VARTYPE>(kind | kVtByRef);
+  made.byref = target;
+  return made;
+}
+
+}  // namespace kw::test
