@@ -1,0 +1,36 @@
+// How every benchmark takes its time.
+#pragma once
+
+#include <benchmark/benchmark.h>
+
+#include <chrono>
+#include <exception>
+
+namespace kw::bench {
+
+// Times work() alone: neither prepare(), which runs before it, nor the release of what it returns.
+// Register the benchmark with UseManualTime(). A failure that is thrown fails the benchmark.
+template <class Prepare, class Work>
+void measure(benchmark::State& state, Prepare prepare, Work work) try {
+  using Clock = std::chrono::steady_clock;
+  for (auto step : state) {
+    static_cast<void>(step);
+    prepare();
+    const auto start = Clock::now();
+    auto result = work();
+    const auto stop = Clock::now();
+    benchmark::DoNotOptimize(&result);
+    benchmark::ClobberMemory();
+    state.SetIterationTime(std::chrono::duration<double>(stop - start).count());
+  }
+} catch (const std::exception& failure) {
+  state.SkipWithError(failure.what());
+}
+
+template <class Work>
+void measure(benchmark::State& state, Work work) {
+  measure(
+      state, [] {}, work);
+}
+
+}  // namespace kw::bench
