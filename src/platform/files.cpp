@@ -1,0 +1,24 @@
+#include "platform/files.h"
+
+#include <atomic>
+
+#include "platform/system_files.h"
+
+namespace kw::platform {
+namespace {
+
+std::atomic<FileService*> stand_in{nullptr};
+
+}  // namespace
+
+FileService& files() noexcept {
+  FileService* service = stand_in.load(std::memory_order_acquire);
+  return service ? *service : system_files();
+}
+
+ScopedFileService::ScopedFileService(FileService& service) noexcept
+    : previous_(stand_in.exchange(&service, std::memory_order_acq_rel)) {}
+
+ScopedFileService::~ScopedFileService() { stand_in.store(previous_, std::memory_order_release); }
+
+}  // namespace kw::platform

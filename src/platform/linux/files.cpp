@@ -1,0 +1,67 @@
+#include "platform/files.h"
+
+#include "kwutils/error.h"
+#include "platform/linux/file_errors.h"
+#include "platform/linux/file_name.h"
+#include "platform/linux/replacement.h"
+#include "platform/linux/stream_files.h"
+#include "platform/linux/system_calls.h"
+#include "platform/system_files.h"
+
+namespace kw::platform {
+namespace {
+
+class SystemFiles : public FileService {
+ public:
+  std::unique_ptr<InputFile> open_input(std::u16string_view name) override {
+    return open_system_input(native_name(name));
+  }
+
+  std::unique_ptr<OutputFile> create_output(std::u16string_view name) override {
+    return create_system_output(native_name(name));
+  }
+
+  std::unique_ptr<ReplacementFile> create_replacement(std::u16string_view temporary,
+                                                      std::u16string_view target) override {
+    return create_system_replacement(native_name(temporary), native_name(target));
+  }
+
+  bool exists(std::u16string_view name) override {
+    try {
+      check_attributes(name);
+      return true;
+    } catch (const Error& error) {
+      if (!says_missing(error)) throw;
+      return false;
+    }
+  }
+
+  void check_attributes(std::u16string_view name) override {
+    const FileName file = native_name(name);
+    struct stat status;
+    const int result = restarted([&] { return system_calls().stat(file.path.c_str(), &status); });
+    if (result != 0) throw_lookup_error(errno, file);
+  }
+
+  void remove(std::u16string_view name) override {
+    const FileName file = native_name(name);
+    const int result = restarted([&] { return system_calls().unlink(file.path.c_str()); });
+    if (result != 0) throw_lookup_error(errno, file);
+  }
+
+ private:
+  static bool says_missing(const Error& error) {
+    return error.number == ErrorNumber::file_not_found ||
+           error.number == ErrorNumber::path_not_found ||
+           error.number == ErrorNumber::bad_file_name_or_number;
+  }
+};
+
+}  // namespace
+
+FileService& system_files() noexcept {
+  static SystemFiles service;
+  return service;
+}
+
+}  // namespace kw::platform

@@ -1,0 +1,86 @@
+#include "platform/linux/stream_files.h"
+
+#include <fcntl.h>
+
+#include <limits>
+#include <utility>
+
+#include "kwutils/error.h"
+#include "platform/linux/file_errors.h"
+#include "platform/linux/system_calls.h"
+#include "platform/linux/write_buffer.h"
+
+namespace kw::platform {
+namespace {
+
+class SystemInput : public InputFile {
+ public:
+  SystemInput(Descriptor file, FileName name) : file_(std::move(file)), name_(std::move(name)) {}
+
+  std::size_t read(char* buffer, std::size_t size) override {
+    return read_some(file_, buffer, size, name_);
+  }
+
+  void seek(std::int64_t position) override {
+    if (position < 0) throw Error(ErrorNumber::bad_record_number, name_.given, EINVAL);
+    const off_t result =
+        restarted([&] { return system_calls().lseek(file_.get(), position, SEEK_SET); });
+    if (result < 0) fail_seek(errno);
+  }
+
+  std::int64_t size_hint() override {
+    const struct stat status = status_of(file_, name_);
+    return S_ISREG(status.st_mode) ? status.st_size : 0;
+  }
+
+ private:
+  [[noreturn]] void fail_seek(int code) const {
+    const bool bad_position = code == EINVAL || code == ESPIPE || code == EOVERFLOW;
+    if (bad_position) throw Error(ErrorNumber::bad_record_number, name_.given, code);
+    throw_file_error(code, name_.given);
+  }
+
+  Descriptor file_;
+  FileName name_;
+};
+
+class SystemOutput : public OutputFile {
+ public:
+  SystemOutput(Descriptor file, FileName name) : buffer_(std::move(file), std::move(name)) {}
+
+  ~SystemOutput() override {
+    try {
+      close();
+    } catch (const Error&) {
+      // Who wants to know calls close().
+    }
+  }
+
+  void write(std::string_view bytes) override { buffer_.write(bytes); }
+
+  void close() override {
+    if (buffer_.descriptor()) buffer_.close();
+  }
+
+ private:
+  WriteBuffer buffer_;
+};
+
+}  // namespace
+
+std::unique_ptr<InputFile> open_system_input(FileName name) {
+  Descriptor file = open_descriptor(name.path, O_RDONLY);
+  if (!file) throw_lookup_error(errno, name);
+  // The system opens a folder and fails only when it is read.
+  if (S_ISDIR(status_of(file, name).st_mode)) throw_file_error(EISDIR, name.given);
+  return std::make_unique<SystemInput>(std::move(file), std::move(name));
+}
+
+std::unique_ptr<OutputFile> create_system_output(FileName name) {
+  Descriptor file = open_descriptor(name.path, O_WRONLY | O_CREAT | O_TRUNC, 0666);
+  if (!file && errno == ENOENT) throw Error(ErrorNumber::path_not_found, name.given, ENOENT);
+  if (!file) throw_file_error(errno, name.given);
+  return std::make_unique<SystemOutput>(std::move(file), std::move(name));
+}
+
+}  // namespace kw::platform
