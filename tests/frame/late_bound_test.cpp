@@ -1,0 +1,198 @@
+// A small class of every kind of parameter, called through its slots' late-bound form as hosts do.
+#include <gtest/gtest.h>
+
+#include "frame/factory.h"
+#include "frame/method.h"
+#include "kwutils/error.h"
+
+namespace kw::frame {
+namespace {
+
+class Sample {
+ public:
+  std::int32_t Add(std::int32_t left, const std::int32_t& right) { return left + right; }
+  String Consume(String& text) {
+    String first = text.view().substr(0, 1);
+    text = text.view().substr(1);
+    return first;
+  }
+  void Count(std::int32_t& number) { number += 70000; }
+  Boolean IsMissing(const Variant& value) { return value.is_missing(); }
+  Boolean Descending(const Boolean& flag) { return flag; }
+  void Fill(Array<String>& array) {
+    array.redim(1, 2);
+    array.at(1) = u"one";
+    array.at(2) = u"two";
+  }
+  void Replace(Collection& items) { items = Collection::create(); }
+  void Fail() { throw Error(ErrorNumber::file_not_found, "a.ent"); }
+  void FailLate(String& text) {
+    text = u"changed";
+    throw Error(ErrorNumber::overflow);
+  }
+  String Same(std::u16string_view by_value, String& changed) {
+    changed = u"gone";
+    return String(by_value);
+  }
+};
+
+const ClassTable& table() {
+  static const ClassTable result = [] {
+    ClassDescription d;
+    d.name = "clsSample";
+    d.interface_id = {1, 2, 3, {4, 5, 6, 7, 8, 9, 10, 11}};
+    using S = Sample;
+    d.methods = {
+        method<&S::Add>(0, "Add", {"left", "right"}, "Adds."),
+        method<&S::Consume>(1, "Consume", {"text"}, "Takes one off."),
+        method<&S::Count>(4, "Count", {"number"}, "Adds 70000."),
+        method<&S::IsMissing>(5, "IsMissing", {optional("value")}, "Tests."),
+        method<&S::Descending>(6, "Descending", {optional("flag", -1)}, "Tests."),
+        method<&S::Fill>(7, "Fill", {"array"}, "Fills."),
+        method<&S::Replace>(8, "Replace", {"items"}, "Replaces."),
+        method<&S::Fail>(9, "Fail", {}, "Fails."),
+        method<&S::FailLate>(10, "FailLate", {"text"}, "Fails after a change."),
+        method<&S::Same>(11, "Same", {"by_value", "changed"}, "Changes what it reads."),
+    };
+    return table_of<Sample>(std::move(d));
+  }();
+  return result;
+}
+
+struct LateBound : testing::Test {
+  LateBound() {
+    void* made = nullptr;
+    EXPECT_EQ(create_object(table(), kIidDispatch, &made), status::kOk);
+    object = Object::attach(static_cast<IDispatch*>(made));
+  }
+  HRESULT invoke(DISPID id, std::vector<VARIANT> reversed, std::uint16_t flags = kDispatchMethod) {
+    DISPPARAMS sent = {reversed.data(), nullptr, static_cast<std::uint32_t>(reversed.size()), 0};
+    return object.pointer()->Invoke(kFirstMember + id, kNullGuid, 0, flags, &sent, result.address(),
+                                    &exception, &bad);
+  }
+  ~LateBound() override {
+    SysFreeString(exception.bstrSource);
+    SysFreeString(exception.bstrDescription);
+  }
+  Object object;
+  Variant result;
+  EXCEPINFO exception = {};
+  std::uint32_t bad = 99;
+};
+
+VARIANT reference_to(VARIANT& variable) {
+  VARIANT result = {};
+  result.vt = kVtByRef | kVtVariant;
+  result.pvarVal = &variable;
+  return result;
+}
+
+TEST_F(LateBound, CoercesArguments) {
+  EXPECT_EQ(invoke(0, {Variant(2.5).raw(), Variant(std::int16_t{3}).raw()}), status::kOk);
+  EXPECT_EQ(result.to_int32(), 5);
+}
+
+TEST_F(LateBound, NamesWhichArgumentHasTheWrongKind) {
+  const Variant text(u"pump");
+  EXPECT_EQ(invoke(0, {text.raw(), Variant(std::int32_t{1}).raw()}), status::kTypeMismatch);
+  EXPECT_EQ(bad, 0u);
+}
+
+TEST_F(LateBound, CountsArguments) {
+  EXPECT_EQ(invoke(0, {Variant(1.0).raw()}), status::kBadParameterCount);
+  EXPECT_EQ(invoke(9, {Variant(1.0).raw()}), status::kBadParameterCount);
+}
+
+TEST_F(LateBound, ScriptVariablesAreChangedInPlace) {
+  Variant variable(u"abc");
+  EXPECT_EQ(invoke(1, {reference_to(*variable.address())}), status::kOk);
+  EXPECT_EQ(result.text().view(), u"a");
+  EXPECT_EQ(variable.text().view(), u"bc");
+}
+
+TEST_F(LateBound, AChangedNumberKeepsTheVariablesKindWhereItFits) {
+  Variant small(std::int16_t{1});
+  EXPECT_EQ(invoke(4, {reference_to(*small.address())}), status::kOk);
+  EXPECT_EQ(small.to_int32(), 70001);
+  Variant text(u"5");
+  EXPECT_EQ(invoke(4, {reference_to(*text.address())}), status::kOk);
+  EXPECT_EQ(text.text().view(), u"70005");
+}
+
+TEST_F(LateBound, LeftOutOptionalsCarryTheirDefaults) {
+  EXPECT_EQ(invoke(5, {}), status::kOk);
+  EXPECT_TRUE(result.to_boolean());
+  EXPECT_EQ(invoke(5, {Variant(u"").raw()}), status::kOk);
+  EXPECT_FALSE(result.to_boolean());
+  EXPECT_EQ(invoke(6, {Variant::missing().raw()}), status::kOk);
+  EXPECT_TRUE(result.to_boolean());
+}
+
+TEST_F(LateBound, ScriptArraysComeBackAsArraysOfVariants) {
+  Variant variable;
+  EXPECT_EQ(invoke(7, {reference_to(*variable.address())}), status::kOk);
+  ASSERT_EQ(variable.raw().vt, kVtArray | kVtVariant);
+  std::int32_t index = 2;
+  Variant element;
+  SafeArrayGetElement(variable.raw().parray, &index, element.address());
+  EXPECT_EQ(element.text().view(), u"two");
+}
+
+TEST_F(LateBound, AnUnsetVariableTakesTheNewCollection) {
+  Variant variable;
+  EXPECT_EQ(invoke(8, {reference_to(*variable.address())}), status::kOk);
+  EXPECT_EQ(variable.to_object().get(u"Count").to_int32(), 0);
+}
+
+TEST_F(LateBound, FailuresCarryNumberSourceAndDescription) {
+  EXPECT_EQ(invoke(9, {}), status::kException);
+  EXPECT_EQ(exception.scode, status::kRunTimeError + 53);
+  EXPECT_EQ(std::u16string_view(exception.bstrSource), u"kwUtils.clsSample");
+  EXPECT_EQ(std::u16string_view(exception.bstrDescription), u"File not found: 'a.ent'");
+}
+
+TEST_F(LateBound, ChangesBeforeAFailureStay) {
+  Variant number(std::int32_t{7});
+  EXPECT_EQ(invoke(10, {reference_to(*number.address())}), status::kException);
+  EXPECT_EQ(number.text().view(), u"changed");
+}
+
+TEST_F(LateBound, MethodsWithoutArgumentsAnswerAsProperties) {
+  EXPECT_EQ(invoke(9, {}, kDispatchPropertyGet), status::kException);
+  EXPECT_EQ(invoke(0, {}, kDispatchPropertyGet), status::kMemberNotFound);
+}
+
+TEST_F(LateBound, WithdrawnNumbersAreUnknownMembers) {
+  EXPECT_EQ(invoke(2, {}), status::kMemberNotFound);
+  EXPECT_EQ(invoke(500, {}), status::kMemberNotFound);
+  EXPECT_EQ(invoke(-kFirstMember, {}), status::kMemberNotFound);
+}
+
+TEST_F(LateBound, NamesAreFoundInAnyCaseAndArgumentsByName) {
+  char16_t member[] = u"ADD", right[] = u"Right", unknown[] = u"none";
+  char16_t* names[] = {member, right, unknown};
+  DISPID ids[3];
+  EXPECT_EQ(object.pointer()->GetIDsOfNames(kNullGuid, names, 2, 0, ids), status::kOk);
+  EXPECT_EQ(ids[0], kFirstMember);
+  EXPECT_EQ(ids[1], 1);
+  EXPECT_EQ(object.pointer()->GetIDsOfNames(kNullGuid, names, 3, 0, ids), status::kUnknownName);
+  VARIANT sent[] = {Variant(std::int32_t{40}).raw(), Variant(std::int32_t{2}).raw()};
+  DISPPARAMS parameters = {sent, &ids[1], 2, 1};
+  EXPECT_EQ(object.pointer()->Invoke(kFirstMember, kNullGuid, 0, kDispatchMethod, &parameters,
+                                     result.address(), nullptr, nullptr),
+            status::kOk);
+  EXPECT_EQ(result.to_int32(), 42);
+}
+
+TEST_F(LateBound, AVariableGivenTwiceIsReadAsItWas) {
+  BSTR text = SysAllocString(u"kept");
+  VARIANT reference = {};
+  reference.vt = kVtByRef | kVtBstr;
+  reference.pbstrVal = &text;
+  EXPECT_EQ(invoke(11, {reference, reference}), status::kOk);
+  EXPECT_EQ(result.text().view(), u"kept");
+  SysFreeString(text);
+}
+
+}  // namespace
+}  // namespace kw::frame
