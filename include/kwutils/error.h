@@ -31,6 +31,7 @@ enum class ErrorNumber : std::int32_t {
   path_file_access = 75,
   path_not_found = 76,
   object_not_set = 91,
+  cannot_create_object = 429,  // no library serves the class, or it cannot be loaded
   no_such_member = 438,
   key_exists = 457,            // a collection already holds the key
   caught_while_reading = 10001,  // the library's own: see clsFileReadWrite

@@ -24,6 +24,7 @@ std::string_view standard_text(ErrorNumber number) noexcept {
     case ErrorNumber::path_file_access: return "Path/File access error";
     case ErrorNumber::path_not_found: return "Path not found";
     case ErrorNumber::object_not_set: return "Object variable not set";
+    case ErrorNumber::cannot_create_object: return "Cannot create object";
     case ErrorNumber::no_such_member: return "Object doesn't support this property or method";
     case ErrorNumber::key_exists:
       return "This key is already associated with an element of this collection";

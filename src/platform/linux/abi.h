@@ -7,3 +7,6 @@
 
 // Marks a function that the system's automation library exports.
 #define KW_AUTOMATION_API __attribute__((visibility("default")))
+
+// Marks a function that this library exports.
+#define KW_EXPORT __attribute__((visibility("default")))

@@ -1,7 +1,5 @@
 #include "platform/paths.h"
 
-#include <dlfcn.h>
-
 #include <atomic>
 #include <filesystem>
 #include <system_error>
@@ -9,6 +7,7 @@
 #include "base/unicode.h"
 #include "kwutils/error.h"
 #include "platform/host_functions.h"
+#include "platform/registry.h"
 
 namespace kw::platform {
 namespace {
@@ -26,15 +25,6 @@ std::u16string windows_text(const std::filesystem::path& path) {
   for (char16_t& c : text)
     if (c == u'/') c = u'\\';
   return text;
-}
-
-std::filesystem::path module_path() {
-  Dl_info info = {};
-  if (dladdr(reinterpret_cast<const void*>(&module_path), &info) == 0 || info.dli_fname == nullptr)
-    throw Error(ErrorNumber::path_not_found);
-  std::error_code failure;
-  const auto path = std::filesystem::absolute(info.dli_fname, failure);
-  return failure ? std::filesystem::path(info.dli_fname) : path.lexically_normal();
 }
 
 }  // namespace
@@ -66,12 +56,12 @@ std::u16string current_directory() {
 
 std::u16string module_directory() {
   if (auto text = host_text(&HostFunctions::module_directory)) return *std::move(text);
-  return windows_text(module_path().parent_path());
+  return windows_text(std::filesystem::path(own_module_path()).parent_path());
 }
 
 std::u16string module_name() {
   if (auto text = host_text(&HostFunctions::module_name)) return *std::move(text);
-  return from_utf8(module_path().stem().native());
+  return from_utf8(std::filesystem::path(own_module_path()).stem().native());
 }
 
 }  // namespace kw::platform

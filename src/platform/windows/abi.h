@@ -7,3 +7,6 @@
 
 // Marks a function that the system's automation library exports.
 #define KW_AUTOMATION_API __declspec(dllimport)
+
+// Marks a function that this library exports; on this system the definition file does.
+#define KW_EXPORT 
