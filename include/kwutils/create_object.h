@@ -1,0 +1,18 @@
+// Creating objects by name, as any automation client does.
+#pragma once
+
+#include <string_view>
+
+#include "kwutils/object.h"
+
+namespace kw {
+
+// A new object of a registered class: `name` is its programmatic name ("kwUtils.clsParse", any case)
+// or its identifier, with or without braces. The library that serves the class is loaded from where
+// it was registered, into this process, and stays loaded. Error 429 when no class of that name is
+// registered, or its library cannot be loaded; the description says which and why.
+//
+//   kw::Object parser = kw::create_object(u"kwUtils.clsParse");
+Object create_object(std::u16string_view name);
+
+}  // namespace kw
