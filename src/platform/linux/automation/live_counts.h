@@ -23,8 +23,9 @@ struct Counts {
   std::atomic<std::int64_t> arrays{0};
 };
 
-// The calling thread's own counts; null before its first count and while it ends.
-extern constinit thread_local Counts* thread_counts;
+// The calling thread's own counts; null before its first count and while it ends. This model of
+// access needs no call: with the default one, counting doubled the time of making a short text.
+[[gnu::tls_model("initial-exec")]] extern constinit thread_local Counts* thread_counts;
 
 // The counts of a thread that has none of its own yet, or no longer.
 Counts& attach_thread();
