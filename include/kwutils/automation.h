@@ -21,8 +21,9 @@ namespace kw {
 // Functions of the operating system; on Linux, of libkwautomation.so.
 extern "C" {
 
-// Texts. Null comes back when there is no memory; null sources make uninitialised texts of the
-// length asked for, except that SysAllocString(null) is null.
+// Texts. Null comes back when there is no memory. A null source makes an uninitialised text of the
+// length asked for; SysReAllocStringLen then keeps what fits of the old text, SysAllocString and
+// SysReAllocString give null. The ReAlloc functions answer 0, the old text kept, without memory.
 KW_AUTOMATION_API BSTR KW_STDCALL SysAllocString(const OLECHAR* text);
 KW_AUTOMATION_API BSTR KW_STDCALL SysAllocStringLen(const OLECHAR* text, std::uint32_t length);
 KW_AUTOMATION_API BSTR KW_STDCALL SysAllocStringByteLen(const char* bytes, std::uint32_t length);

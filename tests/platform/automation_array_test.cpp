@@ -79,6 +79,9 @@ TEST_F(AutomationArray, TooLargeForThirtyTwoBitsIsRefused) {
   EXPECT_EQ(array_of(kVtR8, 0, 0x20000000), nullptr);
   SAFEARRAYBOUND many[3] = {{0xFFFFFFFF, 0}, {0xFFFFFFFF, 0}, {0xFFFFFFFF, 0}};
   EXPECT_EQ(SafeArrayCreate(kVtVariant, 3, many), nullptr);
+  // The number of elements is 0 in 64 bits.
+  SAFEARRAYBOUND wrapping[4] = {{0x10000, 0}, {0x10000, 0}, {0x10000, 0}, {0x10000, 0}};
+  EXPECT_EQ(SafeArrayCreate(kVtUi1, 4, wrapping), nullptr);
 }
 
 TEST_F(AutomationArray, MayHaveNoElements) {

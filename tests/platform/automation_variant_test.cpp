@@ -57,8 +57,10 @@ TEST_F(AutomationVariant, WithALockedArrayStays) {
   SafeArrayLock(held.parray);
   EXPECT_EQ(VariantClear(&held), status::kArrayIsLocked);
   EXPECT_EQ(held.vt, kVtArray | kVtI2);
-  const VARIANT number = variant_of(1);
-  EXPECT_EQ(VariantCopy(&held, &number), status::kArrayIsLocked);
+  VARIANT text = variant_of(u"abc");
+  EXPECT_EQ(VariantCopy(&held, &text), status::kArrayIsLocked);
+  EXPECT_EQ(VariantChangeType(&held, &text, 0, kVtBstr), status::kArrayIsLocked);
+  VariantClear(&text);
   SafeArrayUnlock(held.parray);
   EXPECT_EQ(VariantClear(&held), status::kOk);
 }
@@ -181,8 +183,8 @@ TEST_F(AutomationVariant, RefusesReferencesToNothing) {
 }
 
 TEST_F(AutomationVariant, OfAnUnknownKindIsRefused) {
-  for (const int kind :
-       {15, 77, 0xFFF, kVtByRef + 0, kVtArray + 0, kVtByRef | kVtNull, 0x1000 | 3}) {
+  for (const int kind : {kVtVariant + 0, 15, 77, 0xFFF, kVtByRef + 0, kVtArray + 0,
+                         kVtByRef | kVtNull, 0x1000 | 3}) {
     VARIANT strange{};
     strange.vt = static_cast<VARTYPE>(kind);
     EXPECT_EQ(VariantClear(&strange), status::kBadVariableType) << kind;

@@ -22,11 +22,6 @@ bool is_object(VARTYPE kind) { return kind == kVtDispatch || kind == kVtUnknown;
 
 bool is_array_or_reference(VARTYPE kind) { return kind & (unsigned{kVtArray} | kVtByRef); }
 
-VARTYPE fixed_width(VARTYPE kind) {
-  if (kind == kVtInt) return kVtI4;
-  return kind == kVtUint ? VARTYPE{kVtUi4} : kind;
-}
-
 // Empty and Null can be made of whatever has a value.
 HRESULT change_to_nothing(const VARIANT& source, VARTYPE kind, VARIANT* result) {
   if (source.vt == kVtError || (source.vt == kVtNull && kind == kVtEmpty)) {
@@ -79,16 +74,9 @@ HRESULT change_object(const VARIANT& source, const Change& wanted, int objects_l
   return change_default_value(source.pdispVal, wanted, objects_left, result);
 }
 
-// The same value under the same kind, or under the name of a kind of the same width.
-HRESULT copy_as(const VARIANT& source, VARTYPE kind, VARIANT* result) {
-  const HRESULT copied = VariantCopy(result, &source);
-  if (succeeded(copied)) result->vt = kind;
-  return copied;
-}
-
 HRESULT change(const VARIANT& source, const Change& wanted, int objects_left, VARIANT* result) {
   const VARTYPE kind = wanted.kind;
-  if (fixed_width(source.vt) == fixed_width(kind)) return copy_as(source, kind, result);
+  if (source.vt == kind) return VariantCopy(result, &source);
   if (is_array_or_reference(source.vt) || is_array_or_reference(kind)) {
     return status::kTypeMismatch;
   }
