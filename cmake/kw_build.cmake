@@ -20,6 +20,12 @@ endif()
 
 add_library(kw_options INTERFACE)
 target_compile_options(kw_options INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Werror)
+# The values are worked on in the caller's own storage, as if that were declared with their types.
+target_compile_options(kw_options INTERFACE -fno-strict-aliasing)
+if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+  # GCC 12 sees overlapping copies in the standard library's own string concatenation.
+  target_compile_options(kw_options INTERFACE -Wno-restrict)
+endif()
 if(KW_SANITIZE)
   # vptr checks read the type information of C++ vtables; automation objects have none.
   target_compile_options(kw_options INTERFACE

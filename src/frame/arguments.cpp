@@ -23,6 +23,7 @@ HRESULT Arguments::sort(const Method& method, const DISPPARAMS& sent,
   method_ = &method;
   const std::size_t expected = method.parameters.size();
   if (sent.cArgs > expected || sent.cNamedArgs > sent.cArgs) return status::kBadParameterCount;
+  for (std::size_t i = 0; i < expected; ++i) by_position_[i] = nullptr, sent_index_[i] = 0;
   for (std::uint32_t i = 0; i < sent.cArgs; ++i) {
     const bool named = i < sent.cNamedArgs;
     const std::size_t position =

@@ -38,8 +38,10 @@ class Arguments {
   HRESULT place(std::size_t position, const DISPPARAMS& sent, std::uint32_t index) noexcept;
 
   const Method* method_ = nullptr;
-  std::array<VARIANT*, kMost> by_position_{};
-  std::array<std::uint32_t, kMost> sent_index_{};
+  // Only as many as the method has parameters are ever set: clearing all would cost more than a
+  // call.
+  std::array<VARIANT*, kMost> by_position_;
+  std::array<std::uint32_t, kMost> sent_index_;
 };
 
 }  // namespace kw::frame

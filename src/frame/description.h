@@ -42,9 +42,9 @@ struct Version {
 
 struct ClassDescription {
   std::string_view name;
-  GUID class_id;  // null for a class that only the library itself creates
-  GUID interface_id;
-  Version version;
+  GUID class_id{};  // null for a class that only the library itself creates
+  GUID interface_id{};
+  Version version{};
   std::string_view help;
   std::uint8_t earlier_versions = 0;  // how many hidden aliases name earlier forms of the interface
   std::vector<Method> methods;        // in the order of their slots

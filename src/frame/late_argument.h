@@ -1,6 +1,7 @@
 // One argument of a late-bound call on its way in and, where the method may change it, back out.
 #pragma once
 
+#include <cstring>
 #include <string_view>
 #include <type_traits>
 #include <utility>
@@ -21,10 +22,13 @@ class LateArgument;
 // Numbers and truth values by value.
 template <class T>
 T scalar_in(const VARIANT& value) noexcept {
-  if constexpr (std::is_same_v<T, Boolean>)
+  if constexpr (std::is_same_v<T, Boolean>) {
     return Boolean::from_bits(value.boolVal);
-  else
-    return *reinterpret_cast<const T*>(&value.llVal);
+  } else {
+    T scalar;
+    std::memcpy(&scalar, &value.llVal, sizeof scalar);
+    return scalar;
+  }
 }
 
 template <class P>

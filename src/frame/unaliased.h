@@ -4,6 +4,7 @@
 
 #include <string_view>
 #include <type_traits>
+#include <utility>
 
 #include "frame/kind.h"
 
@@ -31,8 +32,8 @@ class ChangedTexts {
 template <class P>
 class Unaliased {
  public:
-  Unaliased(P native, const ChangedTexts&) : native_(static_cast<P>(native)) {}
-  P get() { return static_cast<P>(native_); }
+  Unaliased(P native, const ChangedTexts&) : native_(std::forward<P>(native)) {}
+  P get() { return std::forward<P>(native_); }
 
  private:
   P native_;
@@ -72,10 +73,10 @@ decltype(auto) call_unaliased(T& instance, P... natives) {
   constexpr bool kChangesTexts = (std::is_same_v<P, String&> || ...);
   if constexpr (kChangesTexts && sizeof...(P) > 1) {
     ChangedTexts changed;
-    (changed.note<P>(static_cast<P>(natives)), ...);
-    return (instance.*Method)(Unaliased<P>(static_cast<P>(natives), changed).get()...);
+    (changed.note<P>(std::forward<P>(natives)), ...);
+    return (instance.*Method)(Unaliased<P>(std::forward<P>(natives), changed).get()...);
   } else {
-    return (instance.*Method)(static_cast<P>(natives)...);
+    return (instance.*Method)(std::forward<P>(natives)...);
   }
 }
 
