@@ -1,0 +1,60 @@
+// The caller's own objects as cases describe them: controls, forms, groups, objects without a text.
+#pragma once
+
+#include <map>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "json_text.h"
+#include "kwutils/automation.h"
+#include "kwutils/object.h"
+#include "kwutils/variant.h"
+
+namespace kw::cases {
+
+// What an object was asked, in order: ["get",name], ["set",name,value], ["call","line",...].
+using Log = std::vector<Json>;
+
+// An object that answers to the names of its kind, and to nothing else. Reading a property that has
+// no value is error 438.
+class FakeObject : public IDispatch {
+ public:
+  // `kind`: textbox, label, form, picture, option, or "" for an object that answers to nothing.
+  FakeObject(const std::string& kind, const Json& properties);
+  virtual ~FakeObject();
+
+  const Log& log() const { return log_; }
+  const std::map<std::string, Variant>& properties() const { return values_; }
+
+  HRESULT KW_STDCALL QueryInterface(const GUID& iid, void** object) override;
+  std::uint32_t KW_STDCALL AddRef() override { return ++references_; }
+  std::uint32_t KW_STDCALL Release() override;
+  HRESULT KW_STDCALL GetTypeInfoCount(std::uint32_t* count) override;
+  HRESULT KW_STDCALL GetTypeInfo(std::uint32_t, LCID, ITypeInfo**) override;
+  HRESULT KW_STDCALL GetIDsOfNames(const GUID&, OLECHAR** names, std::uint32_t count, LCID,
+                                   DISPID* ids) override;
+  HRESULT KW_STDCALL Invoke(DISPID member, const GUID&, LCID, std::uint16_t flags,
+                            DISPPARAMS* parameters, VARIANT* result, EXCEPINFO* exception,
+                            std::uint32_t* bad_argument) override;
+
+ private:
+  HRESULT get(const std::string& name, VARIANT* result);
+  HRESULT call(const DISPPARAMS& parameters);
+
+  std::vector<std::string> names_;
+  std::map<std::string, Variant> values_;
+  bool default_is_text_ = false;
+  Log log_;
+  std::uint32_t references_ = 1;
+};
+
+// A group of option controls, for a host's "for each".
+Object make_group(const Json& members);
+
+// A JSON value as a caller's variant, and back.
+Variant variant_of(const Json& value);
+Json json_of(const VARIANT& value);
+
+}  // namespace kw::cases

@@ -1,0 +1,32 @@
+// The library under test: loaded from its file, reached through its class factories alone.
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "kwutils/host.h"
+#include "kwutils/object.h"
+
+namespace kw::cases {
+
+class Library {
+ public:
+  // Throws kw::Error 429 when the file is no such library.
+  explicit Library(std::string path);
+
+  // A fresh object of a class ("clsParse"); error 429 when there is no such class.
+  Object create(const std::string& class_name) const;
+  // An empty collection of the library's own kind.
+  Object make_collection() const;
+  void set_host(const HostFunctions* functions) const;
+  void open_file(std::int16_t number, std::u16string_view name, NumberedFileMode mode) const;
+  void close_file(std::int16_t number) const;
+
+ private:
+  IUnknown* factory(const std::string& class_name) const;
+
+  std::string path_;
+  IHostDoor* door_;
+};
+
+}  // namespace kw::cases
