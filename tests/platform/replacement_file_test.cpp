@@ -32,6 +32,33 @@ class NoGivingAway : public SystemCalls {
   }
 };
 
+// Keeps the order of the calls that make a replacement safe.
+class Recorder : public SystemCalls {
+ public:
+  ssize_t write(int file, const void* bytes, std::size_t size) override {
+    order += "write ";
+    return SystemCalls::write(file, bytes, size);
+  }
+  int fchmod(int file, mode_t mode) override {
+    order += "permissions ";
+    return SystemCalls::fchmod(file, mode);
+  }
+  int fsync(int file) override {
+    order += "flush ";
+    return SystemCalls::fsync(file);
+  }
+  int close(int file) override {
+    order += "close ";
+    return SystemCalls::close(file);
+  }
+  int rename(const char* from, const char* to) override {
+    order += "rename ";
+    return SystemCalls::rename(from, to);
+  }
+
+  std::string order;
+};
+
 class ReplacementFileTest : public ::testing::Test {
  protected:
   std::unique_ptr<ReplacementFile> start() {
@@ -79,6 +106,15 @@ TEST_F(ReplacementFileTest, WhatIsDroppedLeavesNoTrace) {
   start()->write("new");
   EXPECT_EQ(folder_.read("a.ent"), "old");
   EXPECT_EQ(folder_.list(), Names{"a.ent"});
+}
+
+// Closing may report a failed write, so it comes before the renaming; the last one ends the lock.
+TEST_F(ReplacementFileTest, TheContentIsOnTheDiskAndClosedBeforeItIsRenamed) {
+  folder_.write("a.ent", "old");
+  Recorder calls;
+  const ScopedSystemCalls in_use(calls);
+  replace_with("new");
+  EXPECT_EQ(calls.order, "write permissions flush close rename close ");
 }
 
 TEST_F(ReplacementFileTest, AReaderKeepsTheOldContent) {

@@ -47,7 +47,25 @@ void remove_name(const FileName& name) {
   if (result != 0 && errno != ENOENT) throw_file_error(errno, name.given);
 }
 
-Descriptor take_name(const FileName& name, mode_t mode) {
+// Throws where the file, open and locked under its name, is also the target's. Only now is that
+// certain: while it is open its number passes to no other file, while it is locked it does not
+// move.
+void spare_target(const Descriptor& file, const FileName& name, const FileName& target) {
+  if (bears_name(status_of(file, name), target)) {
+    throw Error(ErrorNumber::invalid_argument, name.given);
+  }
+}
+
+void remove_leftover(const FileName& name, const FileName& target) {
+  Descriptor leftover = open_leftover(name);
+  if (leftover && lock_holds(leftover, name)) {
+    spare_target(leftover, name, target);
+    remove_name(name);
+  }
+  if (const int code = leftover.close()) throw_file_error(code, name.given);
+}
+
+Descriptor take_name(const FileName& name, const FileName& target, mode_t mode) {
   for (int attempt = 0; attempt < kAttempts; ++attempt) {
     Descriptor made = open_descriptor(name.path, O_RDWR | O_CREAT | O_EXCL, mode);
     if (made) {
@@ -56,9 +74,7 @@ Descriptor take_name(const FileName& name, mode_t mode) {
     }
     if (errno == ENOENT) throw Error(ErrorNumber::path_not_found, name.given, ENOENT);
     if (errno != EEXIST) throw_file_error(errno, name.given);
-    Descriptor leftover = open_leftover(name);
-    if (leftover && lock_holds(leftover, name)) remove_name(name);
-    if (const int code = leftover.close()) throw_file_error(code, name.given);
+    remove_leftover(name, target);
   }
   throw_file_error(EWOULDBLOCK, name.given);
 }
@@ -92,9 +108,9 @@ void take_permissions(const Descriptor& file, const struct stat& replaced, const
 
 }  // namespace
 
-ExclusiveFile::ExclusiveFile(FileName name, mode_t mode)
+ExclusiveFile::ExclusiveFile(FileName name, const FileName& target, mode_t mode)
     : name_(std::move(name)),
-      lock_(take_name(name_, mode)),
+      lock_(take_name(name_, target, mode)),
       buffer_(duplicate(lock_, name_), name_) {}
 
 ExclusiveFile::~ExclusiveFile() {

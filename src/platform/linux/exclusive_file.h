@@ -13,9 +13,11 @@ namespace kw::platform {
 
 class ExclusiveFile {
  public:
-  // `mode` as for open(). Error 70 where another writer holds the name (the system's code is
-  // EWOULDBLOCK), or where it belongs to a symbolic link or to something that is no file.
-  ExclusiveFile(FileName name, mode_t mode);
+  // `mode` as for open(). Error 5, and nothing is touched, where `name` and `target`, whose place
+  // the file is to take, are names of one file. Error 70 where another writer holds the name (the
+  // system's code is EWOULDBLOCK), or where it belongs to a symbolic link or to something that is
+  // no file.
+  ExclusiveFile(FileName name, const FileName& target, mode_t mode);
   // The file is removed unless it was moved.
   ~ExclusiveFile();
   ExclusiveFile(const ExclusiveFile&) = delete;

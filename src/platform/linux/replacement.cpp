@@ -14,29 +14,15 @@ namespace {
 
 constexpr std::string_view kSuffix = ".kwtmp";
 
-std::optional<struct stat> status_of_name(const FileName& name) {
-  struct stat status;
-  const int result = restarted([&] { return system_calls().lstat(name.path.c_str(), &status); });
-  if (result == 0) return status;
-  if (errno != ENOENT) throw_file_error(errno, name.given);
-  return std::nullopt;
-}
-
 // What may be replaced: a file, or nothing yet.
 std::optional<struct stat> status_of_target(const FileName& name) {
-  const std::optional<struct stat> status = status_of_name(name);
-  if (status && S_ISDIR(status->st_mode)) throw_file_error(EISDIR, name.given);
-  if (status && !S_ISREG(status->st_mode)) throw_file_error(EPERM, name.given);
+  struct stat status;
+  const int result = restarted([&] { return system_calls().lstat(name.path.c_str(), &status); });
+  if (result != 0 && errno == ENOENT) return std::nullopt;
+  if (result != 0) throw_file_error(errno, name.given);
+  if (S_ISDIR(status.st_mode)) throw_file_error(EISDIR, name.given);
+  if (!S_ISREG(status.st_mode)) throw_file_error(EPERM, name.given);
   return status;
-}
-
-bool is_same_file(const FileName& temporary, const FileName& target,
-                  const std::optional<struct stat>& target_status) {
-  if (temporary.path == target.path) return true;
-  if (!target_status) return false;
-  const std::optional<struct stat> status = status_of_name(temporary);
-  return status && status->st_dev == target_status->st_dev &&
-         status->st_ino == target_status->st_ino;
 }
 
 // Who may not read the old content may not read the new one while it is written.
@@ -59,7 +45,7 @@ class SystemReplacement : public ReplacementFile {
   SystemReplacement(FileName temporary, FileName target)
       : target_(std::move(target)),
         old_(status_of_target(target_)),
-        file_(checked(std::move(temporary)), mode_while_writing(old_)) {}
+        file_(std::move(temporary), target_, mode_while_writing(old_)) {}
 
   void write(std::string_view bytes) override { file_.write(bytes); }
 
@@ -72,15 +58,8 @@ class SystemReplacement : public ReplacementFile {
   }
 
  private:
-  FileName checked(FileName temporary) const {
-    if (is_same_file(temporary, target_, old_)) {
-      throw Error(ErrorNumber::invalid_argument, temporary.given);
-    }
-    return temporary;
-  }
-
   void replace_from_other_volume(const struct stat* permissions) {
-    ExclusiveFile beside(name_beside(target_), mode_while_writing(old_));
+    ExclusiveFile beside(name_beside(target_), target_, mode_while_writing(old_));
     file_.copy_to(beside);
     beside.finish(permissions);
     if (!beside.move_to(target_)) throw_file_error(EXDEV, target_.given);
