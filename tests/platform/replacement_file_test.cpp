@@ -202,6 +202,12 @@ TEST_F(ReplacementFileTest, TheTargetIsNeverItsOwnTemporaryFile) {
   EXPECT_EQ(folder_.read("a.ent"), "old");
 }
 
+TEST_F(ReplacementFileTest, OneNameForBothIsRefusedAlsoWhereThereIsNoFileYet) {
+  const auto name = folder_.name("a.tmp");
+  EXPECT_EQ(number_of([&] { files().create_replacement(name, name); }), 5);
+  EXPECT_TRUE(folder_.list().empty());
+}
+
 TEST_F(ReplacementFileTest, PermissionsAreThoseOfTheReplacedFile) {
   for (const mode_t mode : {0600u, 0644u, 0666u, 0444u, 0751u}) {
     folder_.write("a.ent", "old");

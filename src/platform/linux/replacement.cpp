@@ -74,7 +74,9 @@ class SystemReplacement : public ReplacementFile {
 }  // namespace
 
 std::unique_ptr<ReplacementFile> create_system_replacement(FileName temporary, FileName target) {
-  return std::make_unique<SystemReplacement>(std::move(temporary), follow_links(std::move(target)));
+  target = follow_links(std::move(target));
+  if (temporary.path == target.path) throw Error(ErrorNumber::invalid_argument, temporary.given);
+  return std::make_unique<SystemReplacement>(std::move(temporary), std::move(target));
 }
 
 }  // namespace kw::platform
