@@ -1,0 +1,97 @@
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <chrono>
+#include <string>
+#include <vector>
+
+#include "files/fake_drives.h"
+#include "kwutils/clsFileUtil.h"
+
+namespace kw {
+namespace {
+
+using Messages = std::vector<std::u16string>;
+
+struct UnMakeAbsolute : ::testing::Test {
+  std::u16string relative(std::u16string_view path, const Variant& indicator = Variant::missing()) {
+    return std::u16string(util.UnMakeAbsolute(String(path), indicator).view());
+  }
+
+  testing::FakeDrives host;
+  clsFileUtil util;
+};
+
+TEST_F(UnMakeAbsolute, TakesTheFolderOfTheIndicatorOut) {
+  EXPECT_EQ(relative(u"C:\\Work\\Data\\X.txt", u"C:\\work\\"), u"data\\x.txt");
+  EXPECT_EQ(relative(u"C:\\Work\\Data\\X.txt", u"C:\\work\\model.ini"), u"data\\x.txt");
+}
+
+TEST_F(UnMakeAbsolute, LeavesABackslashWithTheCurrentDirectory) {
+  EXPECT_EQ(relative(u"C:\\Work\\Data\\X.txt"), u"\\data\\x.txt");
+}
+
+TEST_F(UnMakeAbsolute, TakesTheBaseOutWhereverItOccurs) {
+  EXPECT_EQ(relative(u"a\\b\\xa\\b\\y", u"a\\b\\"), u"xy");
+}
+
+TEST_F(UnMakeAbsolute, TheBaseAloneLeavesNothing) {
+  EXPECT_EQ(relative(u"C:\\WORK"), u"");
+  EXPECT_EQ(relative(u""), u"");
+}
+
+TEST_F(UnMakeAbsolute, KeepsAnotherDrive) {
+  EXPECT_EQ(relative(u"D:\\Other\\y.txt"), u"d:\\other\\y.txt");
+  EXPECT_EQ(host.drive, u'C');
+}
+
+TEST_F(UnMakeAbsolute, DropsTheCurrentDrive) {
+  EXPECT_EQ(relative(u"c:\\Other\\y.txt"), u"\\other\\y.txt");
+  EXPECT_EQ(host.drive, u'C');
+}
+
+TEST_F(UnMakeAbsolute, ComparesWithTheDriveOfTheIndicatorAndStaysThere) {
+  EXPECT_EQ(relative(u"D:\\Other\\y.txt", u"d:\\proj\\model.ini"), u"\\other\\y.txt");
+  EXPECT_EQ(host.drive, u'D');
+}
+
+TEST_F(UnMakeAbsolute, DoesNotNormaliseWhereTheIndicatorHasNoDrive) {
+  EXPECT_EQ(relative(u"D:\\a\\\\b\\..\\c", u"\\proj\\model.ini"), u"d:\\a\\\\b\\..\\c");
+  EXPECT_EQ(host.drive, u'C');
+}
+
+TEST_F(UnMakeAbsolute, NormalisesTheRest) {
+  EXPECT_EQ(relative(u"a\\\\b\\.\\c\\..\\d"), u"a\\b\\d");
+}
+
+TEST_F(UnMakeAbsolute, AFirstColonNotOnPosition2IsIllegal) {
+  EXPECT_EQ(relative(u"Ab:c"), u"");
+  EXPECT_EQ(host.messages, Messages{u"Illegal path 'Ab:c', a colon may only occur on position 2"});
+}
+
+TEST_F(UnMakeAbsolute, ASecondColonIsTaken) {
+  EXPECT_EQ(relative(u"D:a:b"), u"d:a:b");
+  EXPECT_EQ(host.messages, Messages());
+}
+
+TEST_F(UnMakeAbsolute, AnEmptyPathEndsWithAnEmptyBaseToo) { EXPECT_EQ(relative(u"", u"C:"), u""); }
+
+// Ten times as many parents, at most twenty times the time.
+TEST_F(UnMakeAbsolute, TakesTimeInProportionToItsParents) {
+  using Clock = std::chrono::steady_clock;
+  const auto best_time_for = [&](int parents) {
+    std::u16string path = u"aa";
+    for (int i = 0; i < parents; ++i) path += u"\\aa\\..";
+    Clock::duration best = Clock::duration::max();
+    for (int i = 0; i < 20; ++i) {
+      const auto start = Clock::now();
+      EXPECT_EQ(relative(path + u"\\x"), u"aa\\x");
+      best = std::min(best, Clock::now() - start);
+    }
+    return best;
+  };
+  EXPECT_LT(best_time_for(10000), 20 * best_time_for(1000));
+}
+
+}  // namespace
+}  // namespace kw
