@@ -50,8 +50,8 @@ std::optional<Edit<C>> set_entry(View<C> content, View<C> section, View<C> key, 
   EntrySearch<C> search(trim(section), trim(key), Sections::first);
   search.scan(content, true);
   value = trim_front(value);
-  if (const auto& entry = search.entry()) {
-    if (entry->value == value) return std::nullopt;
+  if (const Entry<C>* entry = search.entry()) {
+    if (entry->has_value && entry->value == value) return std::nullopt;
     Edit<C> edit{search.place().begin, search.place().next, {}};
     append_entry(edit.text, entry->name, value);
     return edit;

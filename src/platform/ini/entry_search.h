@@ -2,7 +2,6 @@
 #pragma once
 
 #include <cstddef>
-#include <optional>
 
 #include "platform/ini/line_filter.h"
 
@@ -40,8 +39,8 @@ class EntrySearch {
 
   // Nothing that follows can change the answer.
   bool finished() const noexcept { return finished_; }
-  // The entry found, if any.
-  const std::optional<Entry<C>>& entry() const noexcept { return entry_; }
+  // The entry found, or null.
+  const Entry<C>* entry() const noexcept { return found_ ? &entry_ : nullptr; }
   // Where the line of the entry found lies.
   const LinePlace& place() const noexcept { return place_; }
   // The section was found, and where its lines begin and end (where the next header begins) in the
@@ -64,7 +63,8 @@ class EntrySearch {
   bool found_section_ = section_.empty();
   std::size_t section_begin_ = 0;
   std::size_t section_end_ = 0;
-  std::optional<Entry<C>> entry_;
+  bool found_ = false;
+  Entry<C> entry_;
   LinePlace place_;
 };
 
@@ -96,9 +96,9 @@ void EntrySearch<C>::look_at(View<C> text, const LinePlace& place) {
   } else if (inside_) {
     const auto entry = parse_entry(line);
     if (!entry || !same_name(entry->name, key_)) return;
-    entry_ = entry;
+    entry_ = *entry;
     place_ = place;
-    finished_ = true;
+    found_ = finished_ = true;
   }
 }
 

@@ -93,7 +93,8 @@ std::optional<View<C>> header_name(View<C> line) noexcept {
 template <class C>
 struct Entry {
   View<C> name;
-  std::optional<View<C>> value;  // nothing where the line has no "=", which hides later entries too
+  View<C> value;
+  bool has_value = false;  // without a "=" there is none, but later entries of the name are hidden
 };
 
 // The entry on a line that is no header; nothing on a blank line and on a comment (";" first).
@@ -102,8 +103,8 @@ std::optional<Entry<C>> parse_entry(View<C> line) noexcept {
   line = trim(line);
   if (line.empty() || line.front() == C{';'}) return std::nullopt;
   const std::size_t equals = line.find(C{'='});
-  Entry<C> entry{until_nul(trim_back(line.substr(0, equals))), std::nullopt};
-  if (equals != View<C>::npos) entry.value = until_nul(trim_front(line.substr(equals + 1)));
+  Entry<C> entry{until_nul(trim_back(line.substr(0, equals))), {}, equals != View<C>::npos};
+  if (entry.has_value) entry.value = until_nul(trim_front(line.substr(equals + 1)));
   return entry;
 }
 

@@ -62,8 +62,9 @@ std::optional<std::string> read_bytes(Window& window, std::string_view section,
     if (search.finished() || window.at_end()) break;
     window.advance(used);
   }
-  if (!search.entry() || !search.entry()->value) return std::nullopt;
-  return std::string(*search.entry()->value);
+  const Entry<char>* entry = search.entry();
+  if (entry == nullptr || !entry->has_value) return std::nullopt;
+  return std::string(entry->value);
 }
 
 std::optional<std::string> read_utf16(Window& window, std::string_view section,
@@ -74,8 +75,9 @@ std::optional<std::string> read_utf16(Window& window, std::string_view section,
   const std::u16string wide_key = widen(key);
   EntrySearch<char16_t> search(wide_section, wide_key, Sections::first);
   search.scan(units, true);
-  if (!search.entry() || !search.entry()->value) return std::nullopt;
-  return narrow(*search.entry()->value);
+  const Entry<char16_t>* entry = search.entry();
+  if (entry == nullptr || !entry->has_value) return std::nullopt;
+  return narrow(entry->value);
 }
 
 }  // namespace

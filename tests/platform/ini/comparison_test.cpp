@@ -17,12 +17,16 @@ namespace {
 using reference::pick;
 using reference::Random;
 
+std::optional<std::string> value_found(const EntrySearch<char>& search) {
+  if (search.entry() == nullptr || !search.entry()->has_value) return std::nullopt;
+  return std::string(search.entry()->value);
+}
+
 std::optional<std::string> fast_get(std::string_view content, std::string_view section,
                                     std::string_view key) {
   EntrySearch<char> search(trim(section), trim(key), Sections::first);
   search.scan(content, true);
-  if (!search.entry() || !search.entry()->value) return std::nullopt;
-  return std::string(*search.entry()->value);
+  return value_found(search);
 }
 
 // The same for a file that comes in pieces.
@@ -36,8 +40,7 @@ std::optional<std::string> fast_get_pieces(std::string_view content, std::string
     const std::size_t used = search.scan(window, content.empty());
     if (!search.finished()) window.erase(0, used);
   }
-  if (!search.entry() || !search.entry()->value) return std::nullopt;
-  return std::string(*search.entry()->value);
+  return value_found(search);
 }
 
 std::string applied(std::string_view content, const std::optional<Edit<char>>& edit) {

@@ -17,7 +17,7 @@ std::string value_of(std::string_view content, std::string_view section, std::st
   EntrySearch<char> search(trim(section), trim(key), Sections::first);
   search.scan(content, true);
   if (!search.entry()) return kNoEntry;
-  return search.entry()->value ? std::string(*search.entry()->value) : kNoValue;
+  return search.entry()->has_value ? std::string(search.entry()->value) : kNoValue;
 }
 
 // The value of k in section s.
