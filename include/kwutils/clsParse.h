@@ -25,7 +25,7 @@ namespace kw {
 // otherwise. The same variable may be given for several parameters.
 class clsParse {
  public:
-  // --- Lists and fields
+  // Lists and fields.
 
   // Takes the first item off `Buf` and returns it trimmed, without its quotes. Leading blanks of
   // `Buf`, then one comma, are skipped before the item; it ends before the next `Seperator` or,
@@ -53,7 +53,7 @@ class clsParse {
   // number, 6 when it is none of 32 bits.
   String ParseString(std::u16string_view Buf, const String& Sep, Variant ix) const;
 
-  // --- Tokens
+  // Tokens.
 
   // The token number `ScanToTk` of `Buf`, trimmed and without its quotes; 1 when left out. "" when
   // there are not so many tokens, when a quote before its end is never closed, and for a value that
@@ -85,7 +85,7 @@ class clsParse {
   String ParseValuewithTokenandCheck(std::u16string_view Buf, const String& Token,
                                      Array<String>& tkarray, std::int32_t numTk) const;
 
-  // --- Structures: they begin with a word in upper case and end with it in lower case
+  // Structures: they begin with a word in upper case and end with it in lower case.
 
   // The words of the first sub-entity `Token` (any case) of `Entity`, quotes kept, one blank
   // between them. "" when there is none or its closing word occurs nowhere in `Entity`; to the end
@@ -113,7 +113,7 @@ class clsParse {
   //   parse.ReplaceEntity(entity, u"NM", u"'new'")   // u"id 3 nm 'old'": u"id 3 nm 'new' "
   String ReplaceEntity(String& Entity, const String& Token, const String& replacestring) const;
 
-  // --- Tables
+  // Tables.
 
   // Takes the first table off `Buf`, with all that precedes it, and returns its text as it stands:
   // from the line after the one that begins with "TBLE" to "tble", less one CR LF at its end.
