@@ -1,8 +1,11 @@
 #include "server/class_list.h"
 
 #include "config/description.h"
+#include "entry/description.h"
+#include "files/description.h"
 #include "frame/member_names.h"
 #include "parse/description.h"
+#include "system/description.h"
 #include "text/description.h"
 
 namespace kw::server {
@@ -19,8 +22,9 @@ std::u16string_view without_library(std::u16string_view name) {
 }  // namespace
 
 std::span<const frame::ClassTable* const> classes() {
-  static const frame::ClassTable* const tables[] = {&clsParse_table(), &clsIni_table(),
-                                                    &clsStringUtil_table()};
+  static const frame::ClassTable* const tables[] = {
+      &clsParse_table(),      &clsIni_table(),          &clsFileUtil_table(),
+      &clsStringUtil_table(), &clsDataEdtUtils_table(), &clsAPIUtil_table()};
   return tables;
 }
 
