@@ -100,11 +100,6 @@ void BlockSource::move_to_front() noexcept {
   buffer_position_ += static_cast<std::int64_t>(used);
 }
 
-std::int64_t BlockSource::position() const noexcept {
-  const auto used = std::min(static_cast<std::size_t>(begin_ - buffer_.get()), filled_);
-  return buffer_position_ + static_cast<std::int64_t>(used);
-}
-
 void BlockSource::seek(std::int64_t position) {
   file_.seek(position);
   begin_ = slice_ = buffer_.get();

@@ -38,7 +38,11 @@ class BlockSource {
   bool maybe_odd_blanks() const noexcept { return odd_blanks_; }
 
   // How many bytes of the file stand in front of the next line.
-  std::int64_t position() const noexcept;
+  std::int64_t position() const noexcept {
+    const char* const end = buffer_.get() + filled_;
+    const char* const next = begin_ < end ? begin_ : end;  // the last line may have no end
+    return buffer_position_ + (next - buffer_.get());
+  }
   // The next line begins `position` bytes after the file's first byte, wherever that is. Error 63
   // as InputFile::seek; the source then stands where it stood.
   void seek(std::int64_t position);

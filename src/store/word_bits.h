@@ -1,0 +1,48 @@
+// Up to eight characters of a word in one 64-bit number, the first one in the lowest byte.
+#pragma once
+
+#include <bit>
+#include <cstddef>
+#include <cstdint>
+#include <cstring>
+
+namespace kw::store {
+
+inline std::uint64_t load_8(const char* bytes) noexcept {
+  std::uint64_t word;
+  std::memcpy(&word, bytes, sizeof word);
+  if constexpr (std::endian::native == std::endian::big) word = __builtin_bswap64(word);
+  return word;
+}
+
+// Fewer than eight characters, or eight.
+inline std::uint64_t load_up_to_8(const char* bytes, std::size_t count) noexcept {
+  std::uint64_t word = 0;
+  for (std::size_t i = count; i-- > 0;) word = word << 8 | static_cast<unsigned char>(bytes[i]);
+  return word;
+}
+
+inline constexpr std::uint64_t kEveryByte = 0x0101'0101'0101'0101;
+
+// The lowest `count` bytes, 0 to 8 of them.
+constexpr std::uint64_t low_bytes(std::size_t count) noexcept {
+  return count == 0 ? 0 : ~std::uint64_t{0} >> (64 - 8 * count);
+}
+
+constexpr bool all_ascii(std::uint64_t word) noexcept { return (word & kEveryByte * 0x80) == 0; }
+
+// The place of the first blank, 8 when there is none.
+constexpr std::size_t first_blank(std::uint64_t word) noexcept {
+  const std::uint64_t other = word ^ kEveryByte * ' ';
+  const std::uint64_t zeros = (other - kEveryByte) & ~other & kEveryByte * 0x80;
+  return static_cast<std::size_t>(std::countr_zero(zeros)) / 8;  // the lowest hit is a true one
+}
+
+// Every byte in lower case; all of them must be ASCII.
+constexpr std::uint64_t lower_ascii(std::uint64_t word) noexcept {
+  const std::uint64_t from_a = word + kEveryByte * (0x80 - 'A');
+  const std::uint64_t past_z = word + kEveryByte * (0x7F - 'Z');
+  return word | ((from_a & ~past_z & kEveryByte * 0x80) >> 2);
+}
+
+}  // namespace kw::store
