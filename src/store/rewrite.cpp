@@ -1,0 +1,74 @@
+#include "store/rewrite.h"
+
+#include <cstdint>
+
+#include "kwutils/error.h"
+#include "store/temporary_name.h"
+
+namespace kw::store {
+
+namespace {
+
+// A longer block is not kept in memory but read twice.
+constexpr std::size_t kLongestKept = std::size_t{256} << 10;
+
+}  // namespace
+
+Rewrite::Rewrite(std::u16string_view file) {
+  platform::FileService& service = platform::files();
+  new_file_ = service.create_replacement(temporary_name(file), file);
+  staged_.reserve(kStaged);
+  if (!service.exists(file)) return;
+  old_file_ = service.open_input(file);
+  old_records_ = std::make_unique<RecordReader>(*old_file_);
+}
+
+void Rewrite::write_through(std::string_view bytes) {
+  new_file_->write(staged_);
+  staged_.clear();
+  if (bytes.size() > kStaged) return new_file_->write(bytes);
+  staged_.append(bytes);
+}
+
+void Rewrite::copy_block(std::string_view record, const ClosingWord& closing) {
+  if (closing.closes(record)) {
+    if (!record.empty()) write_line(record);
+    return;
+  }
+  block_.clear();
+  for (;;) {
+    if (block_.size() + record.size() > kLongestKept) return copy_long_block(record, closing);
+    block_.append(record);
+    if (closing.closes(record) || at_end()) break;
+    block_.append(kLineEnd);
+    record = next();
+  }
+  if (!block_.empty()) write_line(block_);
+}
+
+// From `record` on the block is read twice: for its comments, then for itself.
+void Rewrite::copy_long_block(std::string_view record, const ClosingWord& closing) {
+  const std::int64_t begin = record_position_;
+  std::uint64_t count = 1;
+  for (; !closing.closes(record) && !at_end(); ++count) record = next();
+  const std::int64_t end = old_records_->position();
+  write(block_);
+  old_records_->seek(begin);
+  for (; count != 0; --count) write_line(old_records_->next());
+  // Somebody else wrote into the file meanwhile.
+  if (old_records_->position() != end) throw Error(ErrorNumber::io_error);
+}
+
+void Rewrite::drop_block(std::string_view record, const ClosingWord& closing) {
+  while (!closing.closes(record) && !at_end()) record = next();
+}
+
+void Rewrite::finish() {
+  new_file_->write(staged_);
+  staged_.clear();
+  old_records_.reset();
+  old_file_.reset();  // some systems do not replace a file that is open
+  new_file_->replace();
+}
+
+}  // namespace kw::store
