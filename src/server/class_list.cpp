@@ -5,6 +5,7 @@
 #include "files/description.h"
 #include "frame/member_names.h"
 #include "parse/description.h"
+#include "store/description.h"
 #include "system/description.h"
 #include "text/description.h"
 
@@ -23,8 +24,9 @@ std::u16string_view without_library(std::u16string_view name) {
 
 std::span<const frame::ClassTable* const> classes() {
   static const frame::ClassTable* const tables[] = {
-      &clsParse_table(),      &clsIni_table(),          &clsFileUtil_table(),
-      &clsStringUtil_table(), &clsDataEdtUtils_table(), &clsAPIUtil_table()};
+      &clsParse_table(),         &clsIni_table(),        &clsFileUtil_table(),
+      &clsFileReadWrite_table(), &clsStringUtil_table(), &clsDataEdtUtils_table(),
+      &clsAPIUtil_table()};
   return tables;
 }
 

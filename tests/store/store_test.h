@@ -1,0 +1,59 @@
+// An object of the store, files in memory, and its values in the reference's words.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "base/code_page.h"
+#include "kwutils/clsFileReadWrite.h"
+#include "kwutils/error.h"
+#include "platform/memory_files.h"
+#include "reference/keyed_list.h"
+
+namespace kw::store {
+
+class StoreTest : public ::testing::Test {
+ protected:
+  static String text(std::string_view bytes) { return String(widen(bytes)); }
+  static std::string bytes(std::u16string_view units) { return narrow(units); }
+
+  static std::vector<std::string> elements(const Array<String>& array) {
+    std::vector<std::string> all;
+    for (const String& element : array.elements()) all.push_back(bytes(element));
+    return all;
+  }
+
+  // The texts of a collection in order; each must be found under its key as well.
+  static reference::KeyedList items(const Collection& collection,
+                                    const reference::KeyedList& expected) {
+    reference::KeyedList all;
+    const std::int32_t count = collection.count();
+    for (std::int32_t i = 1; i <= count; ++i) all.add(bytes(collection.item(i).text()));
+    for (std::size_t i = 0; i < expected.items.size() && i < all.items.size(); ++i) {
+      const auto& key = expected.items[i].key;
+      if (key && collection.holds_text(widen(*key)) &&
+          bytes(collection.item(widen(*key)).text()) == expected.items[i].text)
+        all.items[i].key = key;
+    }
+    return all;
+  }
+
+  // What `read` returns, or the number of the error that it throws.
+  template <class Read>
+  static auto outcome(Read read) -> std::pair<decltype(read()), std::int32_t> {
+    try {
+      return {read(), 0};
+    } catch (const Error& error) {
+      return {{}, static_cast<std::int32_t>(error.number)};
+    }
+  }
+
+  platform::MemoryFiles files;
+  platform::ScopedFileService in_use{files};
+  clsFileReadWrite store;
+};
+
+}  // namespace kw::store
