@@ -1,9 +1,9 @@
 #include <string>
 
 #include "files/path_steps.h"
+#include "files/path_text.h"
 #include "kwutils/clsFileUtil.h"
 #include "platform/paths.h"
-#include "text/replace_until_gone.h"
 
 namespace kw {
 namespace {
@@ -13,19 +13,18 @@ using files::GuardedSteps;
 constexpr std::u16string_view kNetworkPrefix = u"\\\\";
 
 void fill_placeholders(GuardedSteps& steps, std::u16string& path) {
-  steps.run(
-      [&] { path = text::replace_until_gone(path, u"$PATH$", platform::module_directory()); });
-  steps.run([&] { path = text::replace_until_gone(path, u"$EXENAME$", platform::module_name()); });
+  steps.run([&] { path = files::ReplaceAllInPath(path, u"$PATH$", platform::module_directory()); });
+  steps.run([&] { path = files::ReplaceAllInPath(path, u"$EXENAME$", platform::module_name()); });
 }
 
 // Callers get no network path, but they do get the messages that its normalisation shows.
 void normalise_network_path(GuardedSteps& steps, std::u16string path) {
   steps.run([&] {
-    path = text::replace_until_gone(path.substr(kNetworkPrefix.size()), u"\\\\", u"\\");
+    path = files::ReplaceAllInPath(path.substr(kNetworkPrefix.size()), u"\\\\", u"\\");
     path.insert(0, kNetworkPrefix);
   });
-  files::replace_in_path(steps, path, u"\\.\\", u"\\");
-  files::resolve_parents(steps, path);
+  files::replace_step(steps, path, u"\\.\\", u"\\");
+  files::resolve_step(steps, path);
 }
 
 // The current directory of a drive, read by making it the current drive for a moment.
@@ -51,7 +50,7 @@ String clsFileUtil::MakeAbsolute(const String& relPath, const Variant& driveindi
   GuardedSteps steps(u"MakeAbsolute");
   std::u16string path(relPath.view());
   fill_placeholders(steps, path);
-  files::replace_in_path(steps, path, u"\\.\\", u"\\");
+  files::replace_step(steps, path, u"\\.\\", u"\\");
   if (path.empty()) return {};
   if (path.starts_with(kNetworkPrefix)) {
     normalise_network_path(steps, path);

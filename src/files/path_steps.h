@@ -10,11 +10,11 @@
 namespace kw::files {
 
 // Replaces `sought` by `by` until none is left, as one step.
-void replace_in_path(GuardedSteps& steps, std::u16string& path, std::u16string_view sought,
-                     std::u16string_view by);
+void replace_step(GuardedSteps& steps, std::u16string& path, std::u16string_view sought,
+                  std::u16string_view by);
 
 // Takes every "\..\" out, as one step.
-void resolve_parents(GuardedSteps& steps, std::u16string& path);
+void resolve_step(GuardedSteps& steps, std::u16string& path);
 
 // Takes "\\", "\.\" and "\..\" out, in three steps.
 void normalise(GuardedSteps& steps, std::u16string& path);

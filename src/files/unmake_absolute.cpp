@@ -2,9 +2,9 @@
 
 #include "base/case_map.h"
 #include "files/path_steps.h"
+#include "files/path_text.h"
 #include "kwutils/clsFileUtil.h"
 #include "platform/paths.h"
-#include "text/replace_until_gone.h"
 
 namespace kw {
 namespace {
@@ -36,7 +36,7 @@ String clsFileUtil::UnMakeAbsolute(const String& relPath, const Variant& drivein
   };
   std::u16string path(relPath.view());
   const std::u16string base = files::base_folder(steps, driveindicator);
-  steps.run([&] { path = text::replace_until_gone(lower(path), lower(base), u""); });
+  steps.run([&] { path = files::ReplaceAllInPath(lower(path), lower(base), u""); });
   const std::size_t colon = path.find(u':');
   if (colon != std::u16string::npos) {
     if (colon != 1) {

@@ -1,3 +1,5 @@
+#include "files/file_name.h"
+
 #include <gtest/gtest.h>
 
 #include <string>
@@ -10,6 +12,18 @@ namespace {
 const clsFileUtil util;
 
 std::u16string text_of(const String& text) { return std::u16string(text.view()); }
+
+TEST(FindLastOccurrence, IsWhereTheLastOneEnds) {
+  EXPECT_EQ(files::FindLastOccurrence(u"a\\b\\c", u"\\"), 4);
+  EXPECT_EQ(files::FindLastOccurrence(u"abcabc", u"bc"), 6);
+  EXPECT_EQ(files::FindLastOccurrence(u"abc", u"x"), -1);
+  EXPECT_EQ(files::FindLastOccurrence(u"", u"x"), -1);
+}
+
+TEST(ReverseText, TurnsTheTextAround) {
+  EXPECT_EQ(files::ReverseText(u"abc"), u"cba");
+  EXPECT_EQ(files::ReverseText(u""), u"");
+}
 
 struct Parts {
   std::u16string path, name, ext;

@@ -1,12 +1,13 @@
-#include "files/parent_references.h"
+#include "reference/parent_references.h"
 
 #include <gtest/gtest.h>
 
 #include <string>
 
+#include "files/fake_drives.h"
+#include "files/path_text.h"
 #include "kwutils/error.h"
 #include "reference/all_texts.h"
-#include "reference/parent_references.h"
 #include "reference/random_inputs.h"
 
 namespace kw::files {
@@ -21,26 +22,27 @@ struct Outcome {
 };
 
 template <class Resolve>
-Outcome outcome_of(Resolve resolve) {
-  Outcome outcome;
+void run(Outcome& outcome, Resolve resolve) {
   try {
-    outcome.path = resolve(outcome.messages);
+    outcome.path = resolve();
   } catch (const Error& error) {
     outcome.error = static_cast<int>(error.number);
   }
-  return outcome;
 }
 
 Outcome resolved(std::u16string_view path) {
-  return outcome_of([path](int& messages) {
-    return resolve_parent_references(path, [&messages] { ++messages; });
-  });
+  testing::FakeDrives host;
+  Outcome outcome;
+  run(outcome, [&] { return ResolveParentReferences(path); });
+  outcome.messages = static_cast<int>(host.messages.size());
+  return outcome;
 }
 
 Outcome resolved_by_steps(std::u16string_view path) {
-  return outcome_of([path](int& messages) {
-    return reference::resolve_parent_references(std::u16string(path), messages);
-  });
+  Outcome outcome;
+  run(outcome,
+      [&] { return reference::resolve_parent_references(std::u16string(path), outcome.messages); });
+  return outcome;
 }
 
 TEST(ParentReferences, TakeTheFolderBeforeThemOut) {
