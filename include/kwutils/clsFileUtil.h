@@ -56,8 +56,9 @@ class clsFileUtil {
   //   "C:\Work\Data\X.txt"   with "C:\Work" as current directory    "\data\x.txt"
   //   "D:\Other\y.txt"       with C as current drive                "d:\other\y.txt"
   //
-  // Messages and errors as in MakeAbsolute. With a `driveindicator` without "\" the base is empty,
-  // and the call never returns unless `relPath` is "".
+  // Messages and errors as in MakeAbsolute, but only the first ":" is looked at. With a
+  // `driveindicator` without "\" the base is empty, and the call never returns unless `relPath` is
+  // "".
   //
   // Where `relPath` and the indicator both name a drive, the process is left on that of the
   // indicator, whichever it was on before: callers count on it.
