@@ -5,6 +5,7 @@
 #include "files/description.h"
 #include "frame/member_names.h"
 #include "parse/description.h"
+#include "sort/description.h"
 #include "store/description.h"
 #include "system/description.h"
 #include "text/description.h"
@@ -26,7 +27,7 @@ std::span<const frame::ClassTable* const> classes() {
   static const frame::ClassTable* const tables[] = {
       &clsParse_table(),         &clsIni_table(),        &clsFileUtil_table(),
       &clsFileReadWrite_table(), &clsStringUtil_table(), &clsDataEdtUtils_table(),
-      &clsAPIUtil_table()};
+      &clsAPIUtil_table(),       &clsQSort_table()};
   return tables;
 }
 
