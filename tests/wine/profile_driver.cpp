@@ -1,0 +1,74 @@
+// A Windows program that calls the system's profile functions as standard input says: one command a
+// line, one answer a line. Texts are in hexadecimal digits after an "x", so that every byte can be
+// told and an empty text is a word.
+//
+//   get NAME SECTION KEY DEFAULT      buffer of 1024 bytes  -> the text
+//   int NAME SECTION KEY DEFAULT      (DEFAULT in decimal)  -> the number
+//   set NAME SECTION KEY VALUE                              -> 1 or 0
+//   remove NAME SECTION KEY                                 -> 1 or 0
+#include <windows.h>
+
+#include <iostream>
+#include <sstream>
+#include <string>
+
+namespace {
+
+constexpr DWORD kCapacity = 1024;
+
+std::string from_hex(const std::string& word) {
+  std::string bytes;
+  for (std::size_t i = 1; i + 1 < word.size(); i += 2) {
+    bytes += static_cast<char>(std::stoi(word.substr(i, 2), nullptr, 16));
+  }
+  return bytes;
+}
+
+std::string to_hex(const std::string& bytes) {
+  constexpr char kDigits[] = "0123456789ABCDEF";
+  std::string word = "x";
+  for (const char byte : bytes) {
+    word += kDigits[static_cast<unsigned char>(byte) >> 4];
+    word += kDigits[static_cast<unsigned char>(byte) & 15];
+  }
+  return word;
+}
+
+std::string text(std::istream& words) {
+  std::string word;
+  words >> word;
+  return from_hex(word);
+}
+
+std::string answer(const std::string& command, std::istream& words) {
+  const std::string name = text(words);
+  const std::string section = text(words);
+  const std::string key = text(words);
+  if (command == "get") {
+    char buffer[kCapacity];
+    const DWORD size = GetPrivateProfileStringA(section.c_str(), key.c_str(), text(words).c_str(),
+                                                buffer, kCapacity, name.c_str());
+    return to_hex(std::string(buffer, size));
+  }
+  if (command == "int") {
+    int fallback = 0;
+    words >> fallback;
+    return std::to_string(static_cast<int>(
+        GetPrivateProfileIntA(section.c_str(), key.c_str(), fallback, name.c_str())));
+  }
+  const std::string value = command == "set" ? text(words) : std::string();
+  return std::to_string(WritePrivateProfileStringA(
+      section.c_str(), key.c_str(), command == "set" ? value.c_str() : nullptr, name.c_str()));
+}
+
+}  // namespace
+
+int main() {
+  std::string line;
+  while (std::getline(std::cin, line)) {
+    std::istringstream words(line);
+    std::string command;
+    words >> command;
+    std::cout << answer(command, words) << '\n';
+  }
+}
