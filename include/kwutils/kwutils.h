@@ -1,0 +1,22 @@
+// The whole C++ API: the eight classes and the values that they speak.
+#pragma once
+
+#include "kwutils/array.h"
+#include "kwutils/boolean.h"
+#include "kwutils/clsAPIUtil.h"
+#include "kwutils/clsDataEdtUtils.h"
+#include "kwutils/clsFileReadWrite.h"
+#include "kwutils/clsFileUtil.h"
+#include "kwutils/clsIni.h"
+#include "kwutils/clsParse.h"
+#include "kwutils/clsQSort.h"
+#include "kwutils/clsStringUtil.h"
+#include "kwutils/collection.h"
+#include "kwutils/comment_spec.h"
+#include "kwutils/create_object.h"
+#include "kwutils/error.h"
+#include "kwutils/file_open_modes.h"
+#include "kwutils/host.h"
+#include "kwutils/object.h"
+#include "kwutils/string.h"
+#include "kwutils/variant.h"
