@@ -86,7 +86,7 @@ void FakeHost::take_drives(const Json& env) {
   functions_.change_drive = [](void* host, char16_t letter) -> std::int32_t {
     auto* fake = static_cast<FakeHost*>(host);
     if (fake->failing_.find(upper(letter)) != std::u16string::npos) return 68;
-    fake->drive_ = letter;
+    fake->drive_ = upper(letter);
     return 0;
   };
   functions_.current_directory = [](void* host) {
