@@ -45,15 +45,13 @@ LineFilter<char>::Letter::Letter(char byte) noexcept : upper(byte), lower(byte) 
 }
 
 LineFilter<char>::LineFilter(std::string_view name) noexcept
-    : first_((name.empty() ? kNoName : name).front()),
-      last_((name.empty() ? kNoName : name).back()),
-      length_(name.empty() ? kNoName.size() : name.size()) {}
+    : name_(name.empty() ? kNoName : name), first_(name_.front()), last_(name_.back()) {}
 
 bool LineFilter<char>::passes(std::string_view text, std::size_t begin) const noexcept {
   if (begin >= text.size() || is_line_end(text[begin])) return false;
   const char byte = text[begin];
   if (byte == '[' || static_cast<unsigned char>(byte) <= ' ') return true;
-  return first_.is(byte) && length_ <= text.size() - begin && last_.is(text[begin + length_ - 1]);
+  return first_.is(byte) && same_name(text.substr(begin, name_.size()), name_);
 }
 
 // The answer of next(), as far as whole blocks reach; text.size() when they end before it. `from`
@@ -61,18 +59,20 @@ bool LineFilter<char>::passes(std::string_view text, std::size_t begin) const no
 std::size_t LineFilter<char>::next_in_blocks([[maybe_unused]] std::string_view text,
                                              [[maybe_unused]] std::size_t& from) const noexcept {
 #if defined(__SSE2__)
-  for (; text.size() - from >= kBlock + length_; from += kBlock) {
+  for (; text.size() - from >= kBlock + name_.size(); from += kBlock) {
     const char* const at = text.data() + from;
     const __m128i end = either(load(at), '\r', '\n');
     if (_mm_movemask_epi8(end) == 0) continue;
     const __m128i begin = load(at + 1);
     const __m128i name = _mm_and_si128(either(begin, first_.upper, first_.lower),
-                                       either(load(at + length_), last_.upper, last_.lower));
+                                       either(load(at + name_.size()), last_.upper, last_.lower));
     const __m128i other =
         _mm_andnot_si128(either(begin, '\r', '\n'), _mm_or_si128(low(begin), equal(begin, '[')));
-    const int found = _mm_movemask_epi8(_mm_and_si128(end, _mm_or_si128(name, other)));
-    if (found != 0) {
-      return from + 1 + static_cast<std::size_t>(std::countr_zero(static_cast<unsigned>(found)));
+    auto found =
+        static_cast<unsigned>(_mm_movemask_epi8(_mm_and_si128(end, _mm_or_si128(name, other))));
+    for (; found != 0; found &= found - 1) {
+      const std::size_t line = from + 1 + static_cast<std::size_t>(std::countr_zero(found));
+      if (passes(text, line)) return line;
     }
   }
 #endif

@@ -18,7 +18,7 @@ class LineFilter<char> {
  public:
   // Lets headers pass only.
   LineFilter() noexcept : LineFilter("[") {}
-  // Lets headers pass and lines that may hold an entry of that name.
+  // Lets headers pass and lines that may hold an entry of that name, which is kept as a view.
   explicit LineFilter(std::string_view name) noexcept;
 
   // Where the next line that passes begins, at `from` (the beginning of a line) or later; the size
@@ -36,9 +36,9 @@ class LineFilter<char> {
   bool passes(std::string_view text, std::size_t begin) const noexcept;
   std::size_t next_in_blocks(std::string_view text, std::size_t& from) const noexcept;
 
+  std::string_view name_;
   Letter first_;
   Letter last_;
-  std::size_t length_;
 };
 
 // UTF-16 files are rare and small: every line passes that is not empty.
