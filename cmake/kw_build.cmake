@@ -27,6 +27,11 @@ if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
   # read before they are set in its std::optional. clang and the sanitizers look for the real ones.
   target_compile_options(kw_options INTERFACE -Wno-restrict -Wno-maybe-uninitialized)
 endif()
+if(WIN32)
+  # The system's functions as of Windows 7; none of its macros that take the names min and max.
+  target_compile_definitions(kw_options INTERFACE
+    WIN32_LEAN_AND_MEAN NOMINMAX UNICODE _UNICODE _WIN32_WINNT=0x0601)
+endif()
 if(KW_SANITIZE)
   # vptr checks read the type information of C++ vtables; automation objects have none.
   target_compile_options(kw_options INTERFACE

@@ -87,7 +87,7 @@ void call(const frame::ClassTable& table, Object& object, fuzz::Input& input) {
 // Nobody answers the messages of a fuzzer.
 void silence_host() {
   HostFunctions host;
-  host.message_box = [](void*, BSTR, MessageButtons) { return MessageAnswer::abort; };
+  host.message_box = [](void*, BSTR, MessageButtons) KW_STDCALL { return MessageAnswer::abort; };
   set_host(host);
 }
 

@@ -6,7 +6,7 @@
 //
 //   kw::HostFunctions host;
 //   host.context = &window;
-//   host.screen_size = [](void* context, float* width, float* height) { ... };
+//   host.screen_size = [](void* context, float* width, float* height) KW_STDCALL { ... };
 //   kw::set_host(factory, host);      // the library behind a class factory that it answered with
 //   kw::set_host(host);               // the library that is linked into this program
 #pragma once

@@ -4,6 +4,7 @@
 
 #include "frame/late_bound.h"
 #include "frame/object.h"
+#include "platform/type_information.h"
 
 namespace kw::frame {
 namespace {
@@ -34,17 +35,17 @@ std::uint32_t KW_STDCALL add_ref(ObjectBase* self) {
 
 std::uint32_t KW_STDCALL release(ObjectBase* self) { return self->release(); }
 
-// Type information comes from the type library, which this system has none of.
 HRESULT KW_STDCALL get_type_info_count(ObjectBase*, std::uint32_t* count) {
   if (count == nullptr) return status::kPointer;
-  *count = 0;
+  *count = platform::has_type_information() ? 1 : 0;
   return status::kOk;
 }
 
-HRESULT KW_STDCALL get_type_info(ObjectBase*, std::uint32_t, LCID, ITypeInfo** info) {
+HRESULT KW_STDCALL get_type_info(ObjectBase* self, std::uint32_t index, LCID, ITypeInfo** info) {
   if (info == nullptr) return status::kPointer;
   *info = nullptr;
-  return status::kBadIndex;
+  if (index != 0) return status::kBadIndex;
+  return platform::type_information(self->table.description().interface_id, info);
 }
 
 HRESULT KW_STDCALL part_query_interface(ObjectBase::ErrorInfoPart* part, const GUID* iid,

@@ -25,9 +25,13 @@ void register_classes(std::span<const RegisteredClass> classes, std::string_view
                       RegistryScope scope);
 void unregister_classes(std::span<const RegisteredClass> classes, RegistryScope scope);
 
+// Whose registry the library's own entry points write: the machine's on Windows, where who installs
+// has the rights to; the user's on Linux.
+RegistryScope own_scope() noexcept;
+
 struct ClassServer {
   GUID class_id;
-  std::string library;
+  std::string library;  // its file; empty where the system itself finds and loads it (Windows)
 };
 
 // Who serves a class, by programmatic name (any case) or by identifier, with or without braces. The

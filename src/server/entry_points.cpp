@@ -49,14 +49,12 @@ KW_EXPORT kw::HRESULT KW_STDCALL DllGetClassObject(const kw::GUID& class_id, con
 
 KW_EXPORT kw::HRESULT KW_STDCALL DllRegisterServer() {
   return kw::server::guarded([] {
-    kw::server::register_library(kw::platform::own_module_path(),
-                                 kw::platform::RegistryScope::user);
+    kw::server::register_library(kw::platform::own_module_path(), kw::platform::own_scope());
   });
 }
 
 KW_EXPORT kw::HRESULT KW_STDCALL DllUnregisterServer() {
-  return kw::server::guarded(
-      [] { kw::server::unregister_library(kw::platform::RegistryScope::user); });
+  return kw::server::guarded([] { kw::server::unregister_library(kw::platform::own_scope()); });
 }
 
 KW_EXPORT kw::HRESULT KW_STDCALL DllCanUnloadNow() {

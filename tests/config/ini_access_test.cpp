@@ -52,7 +52,7 @@ TEST_F(GetIni, CutsToTheFirst1023Characters) {
 
 TEST_F(GetIni, TextCrossesTheCodePage) {
   folder_.write("app.ini", "[\xE9]\r\nk=\x80\x81\xFF\r\n?=q\r\n");
-  EXPECT_EQ(ini_.GetIni(u"\u00C9", u"k", u"", u"app.ini").view(), u"\u20AC\u0081\u00FF");
+  EXPECT_EQ(ini_.GetIni(u"\u00E9", u"k", u"", u"app.ini").view(), u"\u20AC\u0081\u00FF");
   EXPECT_EQ(ini_.GetIni(u"\u00E9", u"\u0416", u"", u"app.ini").view(), u"q");
 }
 

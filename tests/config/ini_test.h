@@ -20,17 +20,17 @@ class IniTest : public ::testing::Test {
     std::filesystem::current_path(folder_.path());
     HostFunctions host;
     host.context = this;
-    host.message_box = [](void* context, BSTR text, MessageButtons buttons) {
+    host.message_box = [](void* context, BSTR text, MessageButtons buttons) KW_STDCALL {
       auto& test = *static_cast<IniTest*>(context);
       test.messages_.emplace_back(text, SysStringLen(text));
       EXPECT_EQ(buttons, MessageButtons::ok);
       return MessageAnswer::ok;
     };
-    host.screen_size = [](void* context, float* width, float* height) {
+    host.screen_size = [](void* context, float* width, float* height) KW_STDCALL {
       *width = static_cast<IniTest*>(context)->screen_width_;
       *height = static_cast<IniTest*>(context)->screen_height_;
     };
-    host.windows_directory = [](void* context) {
+    host.windows_directory = [](void* context) KW_STDCALL {
       const std::u16string name = static_cast<IniTest*>(context)->folder_.name("windows");
       return SysAllocStringLen(name.data(), static_cast<unsigned>(name.size()));
     };

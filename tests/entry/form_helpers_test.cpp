@@ -3,11 +3,13 @@
 #include <string>
 #include <vector>
 
+#include "base/numeric_text.h"
 #include "entry/fake_control.h"
 #include "kwutils/clsDataEdtUtils.h"
 #include "kwutils/collection.h"
 #include "kwutils/error.h"
 #include "kwutils/host.h"
+#include "platform/screen.h"
 
 namespace kw {
 namespace {
@@ -36,7 +38,7 @@ struct Screen : ::testing::Test {
   Screen() {
     HostFunctions host;
     host.context = this;
-    host.screen_size = [](void* context, float* w, float* h) {
+    host.screen_size = [](void* context, float* w, float* h) KW_STDCALL {
       *w = static_cast<Screen*>(context)->width;
       *h = static_cast<Screen*>(context)->height;
     };
@@ -67,7 +69,12 @@ TEST_F(CheckRez, OverflowsBeyond32Bits) {
   EXPECT_THROW(entry.CheckRez(0, -143165577), Error);
 }
 
-TEST(CheckRezWithoutHost, HasAScreenOfNoSize) { EXPECT_TRUE(entry.CheckRez(0, 0)); }
+TEST(CheckRezWithoutHost, AsksTheSystem) {
+  constexpr float kTwipsPerPixel = 15;
+  const platform::ScreenSize screen = platform::screen_size();
+  EXPECT_TRUE(entry.CheckRez(to_int32(screen.width / kTwipsPerPixel),
+                             to_int32(screen.height / kTwipsPerPixel)));
+}
 
 const std::vector<std::u16string> kFormNames = {
     u"WindowState", u"DrawStyle", u"DrawMode", u"ScaleMode", u"DrawWidth", u"ScaleHeight", u"Line"};

@@ -19,16 +19,18 @@ class FakeDrives {
   FakeDrives() {
     HostFunctions host;
     host.context = this;
-    host.message_box = [](void* context, BSTR text, MessageButtons buttons) {
+    host.message_box = [](void* context, BSTR text, MessageButtons buttons) KW_STDCALL {
       return self(context).answer({text, SysStringLen(text)}, buttons);
     };
-    host.current_drive = [](void* context) { return self(context).drive; };
-    host.change_drive = [](void* context, char16_t letter) { return self(context).change(letter); };
-    host.current_directory = [](void* context) {
+    host.current_drive = [](void* context) KW_STDCALL { return self(context).drive; };
+    host.change_drive = [](void* context, char16_t letter)
+                            KW_STDCALL { return self(context).change(letter); };
+    host.current_directory = [](void* context) KW_STDCALL {
       return text_of(self(context).directories[self(context).drive]);
     };
-    host.module_directory = [](void* context) { return text_of(self(context).module_directory); };
-    host.module_name = [](void* context) { return text_of(self(context).module_name); };
+    host.module_directory = [](void* context)
+                                KW_STDCALL { return text_of(self(context).module_directory); };
+    host.module_name = [](void* context) KW_STDCALL { return text_of(self(context).module_name); };
     set_host(host);
   }
   FakeDrives(const FakeDrives&) = delete;

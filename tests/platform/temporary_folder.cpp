@@ -1,20 +1,19 @@
 #include "platform/temporary_folder.h"
 
-#include <stdlib.h>
-
 #include <algorithm>
 #include <fstream>
+#include <random>
 #include <sstream>
-#include <stdexcept>
 
 namespace kw::testing {
 namespace fs = std::filesystem;
 
 TemporaryFolder::TemporaryFolder(const fs::path& parent) {
-  std::string pattern =
-      ((parent.empty() ? fs::temp_directory_path() : parent) / "kw_test_XXXXXX").string();
-  if (!mkdtemp(pattern.data())) throw std::runtime_error("cannot make a folder for the test");
-  path_ = pattern;
+  const fs::path place = parent.empty() ? fs::temp_directory_path() : parent;
+  std::random_device random;
+  do {
+    path_ = place / ("kw_test_" + std::to_string(random()));
+  } while (!fs::create_directory(path_));
 }
 
 TemporaryFolder::~TemporaryFolder() {

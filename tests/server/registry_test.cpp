@@ -33,7 +33,7 @@ struct Registry : testing::Test {
     folder = fs::temp_directory_path() / ("kwutils-registry-" + std::to_string(getpid()));
     fs::create_directories(folder);
     host.context = &folder;
-    host.registry_folder = [](void* context) {
+    host.registry_folder = [](void* context) KW_STDCALL {
       const std::u16string text = from_utf8(static_cast<fs::path*>(context)->native());
       return SysAllocStringLen(text.data(), static_cast<std::uint32_t>(text.size()));
     };

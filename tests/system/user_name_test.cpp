@@ -13,7 +13,7 @@ struct NTDomainUserName : testing::Test {
   NTDomainUserName() {
     HostFunctions host;
     host.context = &name;
-    host.user_name = [](void* context) -> BSTR {
+    host.user_name = [](void* context) KW_STDCALL -> BSTR {
       const auto& given = *static_cast<std::optional<std::u16string>*>(context);
       if (!given) return nullptr;
       return SysAllocStringLen(given->data(), static_cast<unsigned>(given->size()));

@@ -77,6 +77,8 @@ void unregister_classes(std::span<const RegisteredClass> classes, RegistryScope 
     write_registry(path, content.text());
 }
 
+RegistryScope own_scope() noexcept { return RegistryScope::user; }
+
 std::optional<ClassServer> find_class_server(std::u16string_view name) {
   const std::string sought = to_utf8(name);
   for (const RegistryScope scope : {RegistryScope::user, RegistryScope::system}) {

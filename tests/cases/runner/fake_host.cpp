@@ -30,14 +30,14 @@ std::string own_part(const Json& message) {
 
 FakeHost::FakeHost(const Json& env, const std::filesystem::path& folder) {
   functions_.context = this;
-  functions_.message_box = [](void* host, BSTR text, MessageButtons buttons) {
+  functions_.message_box = [](void* host, BSTR text, MessageButtons buttons) KW_STDCALL {
     return static_cast<FakeHost*>(host)->show({text, SysStringLen(text)}, buttons);
   };
   if (env.contains("answers")) answers_ = env["answers"].get<std::vector<std::string>>();
   if (env.contains("screen")) {
     width_ = env["screen"][0].get<float>();
     height_ = env["screen"][1].get<float>();
-    functions_.screen_size = [](void* host, float* width, float* height) {
+    functions_.screen_size = [](void* host, float* width, float* height) KW_STDCALL {
       *width = static_cast<FakeHost*>(host)->width_;
       *height = static_cast<FakeHost*>(host)->height_;
     };
@@ -47,26 +47,26 @@ FakeHost::FakeHost(const Json& env, const std::filesystem::path& folder) {
     for (const auto& [name, content] : env["windir"].items())
       std::ofstream(folder / name, std::ios::binary) << bytes(content);
     windows_directory_ = from_utf8(folder.string());
-    functions_.windows_directory = [](void* host) {
+    functions_.windows_directory = [](void* host) KW_STDCALL {
       return given_away(static_cast<FakeHost*>(host)->windows_directory_);
     };
   }
   if (env.contains("libdir")) {
     module_directory_ = units(env["libdir"]);
-    functions_.module_directory = [](void* host) {
+    functions_.module_directory = [](void* host) KW_STDCALL {
       return given_away(static_cast<FakeHost*>(host)->module_directory_);
     };
   }
   if (env.contains("libname")) {
     module_name_ = units(env["libname"]);
-    functions_.module_name = [](void* host) {
+    functions_.module_name = [](void* host) KW_STDCALL {
       return given_away(static_cast<FakeHost*>(host)->module_name_);
     };
   }
   if (env.contains("user")) {
     user_known_ = !env["user"].is_null();
     if (user_known_) user_ = units(env["user"]);
-    functions_.user_name = [](void* host) -> BSTR {
+    functions_.user_name = [](void* host) KW_STDCALL -> BSTR {
       const auto* fake = static_cast<FakeHost*>(host);
       return fake->user_known_ ? given_away(fake->user_) : nullptr;
     };
@@ -82,14 +82,15 @@ void FakeHost::take_drives(const Json& env) {
       directories_[upper(from_utf8(letter).at(0))] = units(directory);
   if (env.contains("failing"))
     for (const Json& letter : env["failing"]) failing_ += upper(units(letter).at(0));
-  functions_.current_drive = [](void* host) { return static_cast<FakeHost*>(host)->drive_; };
-  functions_.change_drive = [](void* host, char16_t letter) -> std::int32_t {
+  functions_.current_drive = [](void* host)
+                                 KW_STDCALL { return static_cast<FakeHost*>(host)->drive_; };
+  functions_.change_drive = [](void* host, char16_t letter) KW_STDCALL -> std::int32_t {
     auto* fake = static_cast<FakeHost*>(host);
     if (fake->failing_.find(upper(letter)) != std::u16string::npos) return 68;
     fake->drive_ = upper(letter);
     return 0;
   };
-  functions_.current_directory = [](void* host) {
+  functions_.current_directory = [](void* host) KW_STDCALL {
     const auto* fake = static_cast<FakeHost*>(host);
     const auto found = fake->directories_.find(upper(fake->drive_));
     if (found != fake->directories_.end()) return given_away(found->second);

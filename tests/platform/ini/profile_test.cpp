@@ -223,7 +223,7 @@ TEST_F(Profile, TheHostMayMoveTheSystemsDirectory) {
   static std::u16string directory;
   directory = folder_.name("win");
   HostFunctions host;
-  host.windows_directory = [](void*) {
+  host.windows_directory = [](void*) KW_STDCALL {
     return SysAllocStringLen(directory.data(), static_cast<unsigned>(directory.size()));
   };
   set_host(host);

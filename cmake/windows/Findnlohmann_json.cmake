@@ -1,0 +1,5 @@
+include(${CMAKE_CURRENT_LIST_DIR}/kw_header_only.cmake)
+if(NOT TARGET nlohmann_json::nlohmann_json)
+  kw_header_only(nlohmann_json::nlohmann_json nlohmann json.hpp)
+endif()
+set(nlohmann_json_FOUND TRUE)

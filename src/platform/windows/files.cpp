@@ -1,0 +1,64 @@
+#include "platform/files.h"
+
+#include "kwutils/error.h"
+#include "platform/system_files.h"
+#include "platform/windows/file_errors.h"
+#include "platform/windows/file_name.h"
+#include "platform/windows/replacement.h"
+#include "platform/windows/stream_files.h"
+#include "platform/windows/system.h"
+
+namespace kw::platform {
+namespace {
+
+bool says_missing(const Error& error) {
+  return error.number == ErrorNumber::file_not_found ||
+         error.number == ErrorNumber::path_not_found ||
+         error.number == ErrorNumber::bad_file_name_or_number;
+}
+
+class SystemFiles : public FileService {
+ public:
+  std::unique_ptr<InputFile> open_input(std::u16string_view name) override {
+    return open_system_input(native_name(name));
+  }
+
+  std::unique_ptr<OutputFile> create_output(std::u16string_view name) override {
+    return create_system_output(native_name(name));
+  }
+
+  std::unique_ptr<ReplacementFile> create_replacement(std::u16string_view temporary,
+                                                      std::u16string_view target) override {
+    return create_system_replacement(native_name(temporary), native_name(target));
+  }
+
+  bool exists(std::u16string_view name) override {
+    try {
+      check_attributes(name);
+      return true;
+    } catch (const Error& error) {
+      if (!says_missing(error)) throw;
+      return false;
+    }
+  }
+
+  void check_attributes(std::u16string_view name) override {
+    const FileName file = native_name(name);
+    if (GetFileAttributesW(wide(file.path)) == INVALID_FILE_ATTRIBUTES)
+      throw_file_error(GetLastError(), file.given);
+  }
+
+  void remove(std::u16string_view name) override {
+    const FileName file = native_name(name);
+    if (!DeleteFileW(wide(file.path))) throw_file_error(GetLastError(), file.given);
+  }
+};
+
+}  // namespace
+
+FileService& system_files() noexcept {
+  static SystemFiles service;
+  return service;
+}
+
+}  // namespace kw::platform
