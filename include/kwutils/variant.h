@@ -32,6 +32,7 @@ class Variant {
   explicit Variant(float number) noexcept;
   explicit Variant(double number) noexcept;
   Variant(Boolean value) noexcept;
+  Variant(bool) = delete;  // a Boolean, lest it becomes a number
   Variant(Object object) noexcept;
   Variant(Variant&& other) noexcept : value_(other.value_) { other.value_.vt = kVtEmpty; }
   Variant& operator=(Variant&& other) noexcept {

@@ -7,12 +7,25 @@ bool left_out(const VARIANT& value) {
   return value.vt == kVtError && value.scode == status::kParameterNotFound;
 }
 
+// A reference to no variable at all.
+bool refers_nowhere(const VARIANT& value) {
+  const VARIANT* at = &value;
+  while (at->vt == (kVtByRef | kVtVariant) && at->pvarVal != nullptr) at = at->pvarVal;
+  return (at->vt & kVtByRef) != 0 && at->byref == nullptr;
+}
+
+bool well_formed(const DISPPARAMS& sent) {
+  return (sent.cArgs == 0 || sent.rgvarg != nullptr) &&
+         (sent.cNamedArgs == 0 || sent.rgdispidNamedArgs != nullptr);
+}
+
 }  // namespace
 
 HRESULT Arguments::place(std::size_t position, const DISPPARAMS& sent,
                          std::uint32_t index) noexcept {
   if (position >= method_->parameters.size() || by_position_[position] != nullptr)
     return status::kParameterNotFound;
+  if (refers_nowhere(sent.rgvarg[index])) return status::kInvalidArgument;
   sent_index_[position] = index;
   if (!left_out(sent.rgvarg[index])) by_position_[position] = &sent.rgvarg[index];
   return status::kOk;
@@ -20,6 +33,7 @@ HRESULT Arguments::place(std::size_t position, const DISPPARAMS& sent,
 
 HRESULT Arguments::sort(const Method& method, const DISPPARAMS& sent,
                         std::uint32_t* bad_argument) noexcept {
+  if (!well_formed(sent)) return status::kInvalidArgument;
   method_ = &method;
   const std::size_t expected = method.parameters.size();
   if (sent.cArgs > expected || sent.cNamedArgs > sent.cArgs) return status::kBadParameterCount;

@@ -22,8 +22,8 @@ class Arguments {
   static constexpr std::size_t kMost = 16;
 
   // Sorts what the caller sent, last argument first and named ones in front, by parameter. A status
-  // other than kOk: too many arguments, a name given twice or unknown, or one missing that is not
-  // optional; `bad_argument` then tells which, where that can be told.
+  // other than kOk: too many arguments, a name given twice or unknown, a reference to nothing, or
+  // one missing that is not optional; `bad_argument` then tells which, where that can be told.
   HRESULT sort(const Method& method, const DISPPARAMS& sent, std::uint32_t* bad_argument) noexcept;
 
   // The argument of a parameter, or null when it was left out.

@@ -36,6 +36,10 @@ SAFEARRAY* same_bounds(const SAFEARRAY* array, VARTYPE element) {
   return SafeArrayCreate(element, 1, &bound);
 }
 
+bool has_fixed_bounds(const SAFEARRAY& array) {
+  return array.cLocks != 0 || (array.fFeatures & (kFeatureFixedSize | kFeatureStatic)) != 0;
+}
+
 char* element_at(const SAFEARRAY* array, std::size_t index) {
   return static_cast<char*>(array->pvData) + index * array->cbElements;
 }
@@ -61,6 +65,13 @@ void convert_into(SAFEARRAY* typed, VARTYPE element, const SAFEARRAY* values, st
               element_at(typed, index));
 }
 
+// Both hold variants.
+void swap_elements(SAFEARRAY& left, SAFEARRAY& right) {
+  const std::size_t count = std::min(left.rgsabound[0].cElements, right.rgsabound[0].cElements);
+  auto* const first = static_cast<VARIANT*>(left.pvData);
+  std::swap_ranges(first, first + count, static_cast<VARIANT*>(right.pvData));
+}
+
 }  // namespace
 
 SAFEARRAY* typed_array(const VARIANT& argument, VARTYPE element) {
@@ -80,8 +91,7 @@ SAFEARRAY* typed_array(const VARIANT& argument, VARTYPE element) {
   for (std::size_t i = 0; i < values->rgsabound[0].cElements; ++i)
     convert_into(typed.get(), element, values, i);
   // A method must not give new bounds to an array whose bounds the caller has fixed.
-  if ((values->fFeatures & (kFeatureFixedSize | kFeatureStatic)) != 0)
-    typed.get()->fFeatures |= kFeatureFixedSize;
+  if (has_fixed_bounds(*values)) typed.get()->fFeatures |= kFeatureFixedSize;
   return typed.release();
 }
 
@@ -95,20 +105,17 @@ void write_array_back(VARIANT& argument, const SAFEARRAY* typed) {
     const VARIANT source = reference_to(typed, element, i);
     if (VariantCopyInd(&to[i], &source) < 0) throw Refused{status::kOutOfMemory};
   }
-  if (!is_variable(variable)) {
+  SAFEARRAY* const before = (variable.vt & kVtArray) != 0 ? array_in(variable) : nullptr;
+  if (before != nullptr && has_fixed_bounds(*before)) {
+    swap_elements(*before, *values.get());
+  } else if (is_variable(variable)) {
+    if (before != nullptr) SafeArrayDestroy(before);
+    *variable.pparray = values.release();
+  } else {
     VariantClear(&variable);
     variable.vt = kVtArray | kVtVariant;
     variable.parray = values.release();
-    return;
   }
-  SAFEARRAY* fixed = array_in(variable);
-  if (fixed == nullptr) {
-    *variable.pparray = values.release();
-    return;
-  }
-  const std::size_t count =
-      std::min(fixed->rgsabound[0].cElements, values.get()->rgsabound[0].cElements);
-  for (std::size_t i = 0; i < count; ++i) std::swap(static_cast<VARIANT*>(fixed->pvData)[i], to[i]);
 }
 
 }  // namespace kw::frame

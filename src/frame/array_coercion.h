@@ -11,8 +11,9 @@ namespace kw::frame {
 // be converted.
 SAFEARRAY* typed_array(const VARIANT& argument, VARTYPE element);
 
-// Puts the values of a typed array back into the caller's variable, as an array of variants. A
-// variable of fixed bounds takes as many values as it has elements.
+// Puts the values of a typed array back into the caller's variable, as an array of variants with
+// the same bounds. An array of fixed bounds, or one that the caller has locked, keeps its own
+// place.
 void write_array_back(VARIANT& argument, const SAFEARRAY* typed);
 
 }  // namespace kw::frame

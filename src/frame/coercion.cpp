@@ -71,6 +71,8 @@ void* readable_storage_of(VARIANT& argument, VARTYPE kind) noexcept {
 Variant coerced(const VARIANT& argument, VARTYPE kind) {
   Variant result;
   const HRESULT changed = VariantChangeType(result.address(), &argument, kChangeAlphaBool, kind);
+  // An object variable that is not set has no value of any kind.
+  if (changed == status::kBadVariableType) throw Refused{status::kTypeMismatch};
   if (changed < 0) throw Refused{changed};
   return result;
 }

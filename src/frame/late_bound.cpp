@@ -35,9 +35,10 @@ HRESULT call(ObjectBase& self, const Method& method, const DISPPARAMS& sent, VAR
 
 }  // namespace
 
-HRESULT KW_STDCALL get_ids_of_names(ObjectBase* self, const GUID*, OLECHAR** names,
+HRESULT KW_STDCALL get_ids_of_names(ObjectBase* self, const GUID* reserved, OLECHAR** names,
                                     std::uint32_t count, LCID, DISPID* ids) noexcept {
   if (!self->on_own_thread()) return status::kWrongThread;
+  if (reserved != nullptr && *reserved != kNullGuid) return status::kUnknownInterface;
   if (count == 0) return status::kOk;
   if (names == nullptr || ids == nullptr) return status::kPointer;
   const Method* method =

@@ -37,13 +37,14 @@ HRESULT class_object(const GUID& class_id, const GUID& iid, void** object) {
 
 extern "C" {
 
-KW_EXPORT kw::HRESULT KW_STDCALL DllGetClassObject(const kw::GUID& class_id, const kw::GUID& iid,
+KW_EXPORT kw::HRESULT KW_STDCALL DllGetClassObject(const kw::GUID* class_id, const kw::GUID* iid,
                                                    void** object) {
   if (object == nullptr) return kw::status::kPointer;
   *object = nullptr;
+  if (class_id == nullptr || iid == nullptr) return kw::status::kInvalidArgument;
   kw::HRESULT answer = kw::status::kFail;
   const kw::HRESULT guard =
-      kw::server::guarded([&] { answer = kw::server::class_object(class_id, iid, object); });
+      kw::server::guarded([&] { answer = kw::server::class_object(*class_id, *iid, object); });
   return guard != kw::status::kOk ? guard : answer;
 }
 

@@ -30,6 +30,11 @@ class Sample {
     text = u"changed";
     throw Error(ErrorNumber::overflow);
   }
+  void Resize(const String& element, Array<String>& array) {
+    const std::u16string before(element.view());
+    array.redim(1, 9);
+    if (element.view() != before) throw Error(ErrorNumber::io_error);
+  }
   String Same(std::u16string_view by_value, String& changed) {
     changed = u"gone";
     return String(by_value);
@@ -52,6 +57,7 @@ const ClassTable& table() {
         method<&S::Replace>(8, "Replace", {"items"}, "Replaces."),
         method<&S::Fail>(9, "Fail", {}, "Fails."),
         method<&S::FailLate>(10, "FailLate", {"text"}, "Fails after a change."),
+        method<&S::Resize>(12, "Resize", {"element", "array"}, "Resizes."),
         method<&S::Same>(11, "Same", {"by_value", "changed"}, "Changes what it reads."),
     };
     return table_of<Sample>(std::move(d));
@@ -192,6 +198,77 @@ TEST_F(LateBound, AVariableGivenTwiceIsReadAsItWas) {
   EXPECT_EQ(invoke(11, {reference, reference}), status::kOk);
   EXPECT_EQ(result.text().view(), u"kept");
   SysFreeString(text);
+}
+
+TEST_F(LateBound, ReferencesToNothingAreRefused) {
+  for (const VARTYPE kind : {kVtBstr, kVtI4, kVtDispatch, kVtVariant}) {
+    VARIANT nowhere = {};
+    nowhere.vt = static_cast<VARTYPE>(kind | kVtByRef);
+    EXPECT_EQ(invoke(1, {nowhere}), status::kInvalidArgument) << kind;
+  }
+  VARIANT array = {};
+  array.vt = kVtArray | kVtBstr | kVtByRef;
+  EXPECT_EQ(invoke(7, {array}), status::kInvalidArgument);
+  EXPECT_EQ(invoke(7, {reference_to(array)}), status::kInvalidArgument);
+  EXPECT_EQ(bad, 0u);
+}
+
+TEST_F(LateBound, MalformedParametersAreRefused) {
+  DISPPARAMS missing = {nullptr, nullptr, 2, 0};
+  EXPECT_EQ(object.pointer()->Invoke(kFirstMember, kNullGuid, 0, kDispatchMethod, &missing, nullptr,
+                                     nullptr, nullptr),
+            status::kInvalidArgument);
+  VARIANT number = Variant(std::int32_t{1}).raw();
+  DISPPARAMS unnamed = {&number, nullptr, 1, 1};
+  EXPECT_EQ(object.pointer()->Invoke(kFirstMember, kNullGuid, 0, kDispatchMethod, &unnamed, nullptr,
+                                     nullptr, nullptr),
+            status::kInvalidArgument);
+}
+
+VARIANT variant_array(std::int32_t lower, std::uint32_t count) {
+  SAFEARRAYBOUND bound = {count, lower};
+  VARIANT result = {};
+  result.vt = kVtArray | kVtVariant;
+  result.parray = SafeArrayCreate(kVtVariant, 1, &bound);
+  return result;
+}
+
+TEST_F(LateBound, AnArrayVariableOfVariantsTakesTheNewBounds) {
+  VARIANT variable = variant_array(0, 2);
+  VARIANT reference = {};
+  reference.vt = kVtArray | kVtVariant | kVtByRef;
+  reference.pparray = &variable.parray;
+  EXPECT_EQ(invoke(7, {reference}), status::kOk);
+  EXPECT_EQ(variable.parray->rgsabound[0].lLbound, 1);
+  EXPECT_EQ(variable.parray->rgsabound[0].cElements, 2u);
+  EXPECT_EQ(Variant::copy_of(static_cast<VARIANT*>(variable.parray->pvData)[1]).text().view(),
+            u"two");
+  VariantClear(&variable);
+}
+
+TEST_F(LateBound, LockedArraysOfVariantsKeepTheirBounds) {
+  VARIANT variable = variant_array(1, 2);
+  SAFEARRAY* const before = variable.parray;
+  SafeArrayLock(before);
+  EXPECT_EQ(invoke(7, {reference_to(variable)}), status::kException);
+  EXPECT_EQ(exception.scode, status::kRunTimeError + 10);
+  EXPECT_EQ(variable.parray, before);
+  SafeArrayUnlock(before);
+  VariantClear(&variable);
+}
+
+TEST_F(LateBound, AnArrayIsNotResizedUnderItsOwnElement) {
+  std::vector<String> texts;
+  texts.emplace_back(u"element");
+  SAFEARRAY* array = Array<String>::of(1, std::move(texts)).release();
+  VARIANT element = {}, whole = {};
+  element.vt = kVtBstr | kVtByRef;
+  element.pbstrVal = static_cast<BSTR*>(array->pvData);
+  whole.vt = kVtArray | kVtBstr | kVtByRef;
+  whole.pparray = &array;
+  EXPECT_EQ(invoke(12, {whole, element}), status::kException);
+  EXPECT_EQ(exception.scode, status::kRunTimeError + 10);
+  SafeArrayDestroy(array);
 }
 
 }  // namespace
