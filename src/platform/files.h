@@ -81,6 +81,10 @@ class FileService {
   // folder are no error: nothing is there. Whatever else keeps the question from being answered
   // throws, so that a file that cannot be seen is never taken for a missing one.
   virtual bool exists(std::u16string_view name) = 0;
+  // Whether both names mean one file or directory that is there. False where that cannot be told.
+  virtual bool same_file(std::u16string_view first, std::u16string_view second) {
+    return first == second && exists(first);
+  }
   // Throws what reading the attributes of that file or directory would raise.
   virtual void check_attributes(std::u16string_view name) = 0;
   // Deletes a file.

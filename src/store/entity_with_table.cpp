@@ -42,6 +42,7 @@ WriteRows rows_of(const Array<String>& table) {
 
 WriteRows rows_of_file(std::u16string_view file) {
   return [file](Rewrite& to) {
+    to.refuse_temporary(file);
     const auto input = platform::files().open_input(file);
     RecordReader records(*input);
     while (!records.at_end()) to.write_line(to.GetRecordKeepComments(records));

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 
+#include "base/unicode.h"
 #include "kwutils/error.h"
 #include "store/temporary_name.h"
 
@@ -14,13 +15,18 @@ constexpr std::size_t kLongestKept = std::size_t{256} << 10;
 
 }  // namespace
 
-Rewrite::Rewrite(std::u16string_view file) {
+Rewrite::Rewrite(std::u16string_view file) : temporary_(temporary_name(file)) {
   platform::FileService& service = platform::files();
-  new_file_ = service.create_replacement(temporary_name(file), file);
+  new_file_ = service.create_replacement(temporary_, file);
   staged_.reserve(kStaged);
   if (!service.exists(file)) return;
   old_file_ = service.open_input(file);
   old_records_ = std::make_unique<RecordReader>(*old_file_);
+}
+
+void Rewrite::refuse_temporary(std::u16string_view file) const {
+  if (platform::files().same_file(file, temporary_))
+    throw Error(ErrorNumber::permission_denied, to_utf8(file));
 }
 
 void Rewrite::write_through(std::string_view bytes) {

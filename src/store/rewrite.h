@@ -37,6 +37,10 @@ class Rewrite {
     return records.next([this](std::string_view comment) { write_line(comment); });
   }
 
+  // Error 70 when the file is the temporary file itself, which nobody else may read or write: what
+  // is written would come back to be written again.
+  void refuse_temporary(std::u16string_view file) const;
+
   // Writes as it is.
   void write(std::string_view bytes) {
     if (bytes.size() > kStaged - staged_.size()) return write_through(bytes);
@@ -62,6 +66,7 @@ class Rewrite {
   void write_through(std::string_view bytes);
   void copy_long_block(std::string_view record, const ClosingWord& closing);
 
+  std::u16string temporary_;
   std::unique_ptr<platform::ReplacementFile> new_file_;
   std::unique_ptr<platform::InputFile> old_file_;
   std::unique_ptr<RecordReader> old_records_;

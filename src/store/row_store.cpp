@@ -1,5 +1,7 @@
 #include "store/row_store.h"
 
+#include "base/unicode.h"
+#include "kwutils/error.h"
 #include "store/gathering.h"
 #include "store/text.h"
 
@@ -12,8 +14,15 @@ void RowStore::add(std::string_view row) {
   ++total_;
 }
 
+void RowStore::create_file() {
+  platform::FileService& service = platform::files();
+  if (service.same_file(spill_file_, source_file_))
+    throw Error(ErrorNumber::permission_denied, to_utf8(spill_file_));
+  file_ = service.create_output(spill_file_);
+}
+
 void RowStore::spill() {
-  if (!file_) file_ = platform::files().create_output(spill_file_);
+  if (!file_) create_file();
   file_->write(bytes_);
   bytes_.clear();
   ends_.clear();

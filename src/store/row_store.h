@@ -14,9 +14,13 @@ namespace kw::store {
 
 class RowStore {
  public:
-  // The file is made when the first row comes that does not fit.
-  RowStore(std::u16string_view spill_file, std::int32_t capacity) noexcept
-      : spill_file_(spill_file), capacity_(static_cast<std::size_t>(capacity)) {}
+  // The file is made when the first row comes that does not fit; error 70 when it is `source_file`,
+  // which the rows are read from.
+  RowStore(std::u16string_view spill_file, std::u16string_view source_file,
+           std::int32_t capacity) noexcept
+      : spill_file_(spill_file),
+        source_file_(source_file),
+        capacity_(static_cast<std::size_t>(capacity)) {}
 
   void add(std::string_view row);
   // Whether rows went to the file.
@@ -30,9 +34,11 @@ class RowStore {
   std::vector<String> kept() const;
 
  private:
+  void create_file();
   void spill();
 
   std::u16string_view spill_file_;
+  std::u16string_view source_file_;
   std::size_t capacity_;
   std::int32_t total_ = 0;
   std::string bytes_;              // the rows in memory, one after the other

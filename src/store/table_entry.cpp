@@ -52,7 +52,7 @@ std::int32_t table_entry_with_spill(const TableQuery& query, Array<String>& tabl
                                     std::int32_t buffer_size) {
   table.redim(1, buffer_size);
   stored = false;
-  RowStore rows(spill_file, buffer_size);
+  RowStore rows(spill_file, query.file, buffer_size);
   try {
     read_rows(query, [&](std::string_view row) { rows.add(row); });
     stored = rows.spilled();

@@ -1,6 +1,7 @@
 // The methods that write or delete one entity.
 #include <cstdint>
 
+#include "base/unicode.h"
 #include "kwutils/clsFileReadWrite.h"
 #include "kwutils/error.h"
 #include "parse/text_view.h"
@@ -8,6 +9,7 @@
 #include "store/block_source.h"
 #include "store/entity_with_table.h"
 #include "store/replace_entity.h"
+#include "store/temporary_name.h"
 #include "store/trimmed_name.h"
 
 namespace kw {
@@ -15,6 +17,16 @@ namespace kw {
 namespace {
 
 bool is_blank(const String& text) { return parse::trim(text.view()).empty(); }
+
+bool has_place_for_table(const String& entity) {
+  return !is_blank(entity) && parse::contains<char16_t>(entity.view(), u"??");
+}
+
+// Rows that lie under the temporary file's name would be gone before they could be read.
+void refuse_rows_in_temporary(std::u16string_view file, std::u16string_view rows) {
+  if (platform::files().same_file(rows, store::temporary_name(parse::trim(file))))
+    throw Error(ErrorNumber::permission_denied, to_utf8(rows));
+}
 
 void write_with_table(String& file, const String& token, const String& id, const String& entity,
                       const store::WriteRows& rows) {
@@ -49,6 +61,8 @@ void clsFileReadWrite::WriteEntitywithTableUsingTempFile(String& FileName, const
                                                          const Array<String>& Table,
                                                          const String& TableStoredinfile,
                                                          const Boolean& isTableStoredinfile) const {
+  if (isTableStoredinfile && has_place_for_table(Entity))
+    refuse_rows_in_temporary(FileName, TableStoredinfile);
   write_with_table(
       FileName, Token, ID, Entity,
       isTableStoredinfile ? store::rows_of_file(TableStoredinfile) : store::rows_of(Table));

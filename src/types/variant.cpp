@@ -4,6 +4,15 @@
 #include "types/status.h"
 
 namespace kw {
+namespace {
+
+// The object that an object variable refers to; null when it is not set.
+IUnknown* object_of(const VARIANT& variable) {
+  if ((variable.vt & kVtByRef) == 0) return variable.punkVal;
+  return variable.ppunkVal != nullptr ? *variable.ppunkVal : nullptr;
+}
+
+}  // namespace
 
 Variant::Variant(String text) noexcept : Variant() {
   value_.vt = kVtBstr;
@@ -96,6 +105,7 @@ bool Variant::is_object() const noexcept {
 }
 
 Variant Variant::converted(VARTYPE kind) const {
+  if (is_object() && object_of(contents()) == nullptr) throw Error(ErrorNumber::object_not_set);
   Variant result;
   // The host's text of a truth value is "True" or "False", not a number.
   check_status(VariantChangeType(&result.value_, &value_, kChangeAlphaBool, kind));
@@ -136,20 +146,8 @@ Boolean Variant::to_boolean() const {
 }
 
 Object Variant::to_object() const {
-  const VARIANT& value = contents();
-  IUnknown* object = nullptr;
-  switch (value.vt) {
-    case kVtDispatch:
-    case kVtUnknown:
-      object = value.punkVal;
-      break;
-    case kVtDispatch | kVtByRef:
-    case kVtUnknown | kVtByRef:
-      object = value.ppunkVal != nullptr ? *value.ppunkVal : nullptr;
-      break;
-    default:
-      throw Error(ErrorNumber::type_mismatch);
-  }
+  if (!is_object()) throw Error(ErrorNumber::type_mismatch);
+  IUnknown* object = object_of(contents());
   if (object == nullptr) throw Error(ErrorNumber::object_not_set);
   void* late_bound = nullptr;
   if (object->QueryInterface(kIidDispatch, &late_bound) < 0)

@@ -36,6 +36,12 @@ class SystemFiles : public FileService {
     }
   }
 
+  bool same_file(std::u16string_view first, std::u16string_view second) override {
+    struct stat left, right;
+    return look_up(first, left) && look_up(second, right) && left.st_dev == right.st_dev &&
+           left.st_ino == right.st_ino;
+  }
+
   void check_attributes(std::u16string_view name) override {
     const FileName file = native_name(name);
     struct stat status;
@@ -50,6 +56,14 @@ class SystemFiles : public FileService {
   }
 
  private:
+  static bool look_up(std::u16string_view name, struct stat& status) {
+    try {
+      const FileName file = native_name(name);
+      return restarted([&] { return system_calls().stat(file.path.c_str(), &status); }) == 0;
+    } catch (const Error&) {
+      return false;
+    }
+  }
   static bool says_missing(const Error& error) {
     return error.number == ErrorNumber::file_not_found ||
            error.number == ErrorNumber::path_not_found ||
