@@ -22,7 +22,7 @@ class ScratchRoot {
     const std::string name = "kwutils-cases-" + std::to_string(random());
     std::error_code failure;
     path_ = fs::path("/dev/shm") / name;
-    if (fs::create_directory(path_, failure)) return;
+    if (path_.is_absolute() && fs::create_directory(path_, failure)) return;
     path_ = fs::temp_directory_path() / name;
     fs::create_directory(path_);
   }
