@@ -43,7 +43,7 @@ TEST_F(HostServices, TheHostShowsMessagesAndAnswersThem) {
   } seen;
   HostFunctions host;
   host.context = &seen;
-  host.message_box = [](void* context, BSTR text, MessageButtons buttons) {
+  host.message_box = [](void* context, BSTR text, MessageButtons buttons) KW_STDCALL {
     *static_cast<Seen*>(context) = {std::u16string(text, SysStringLen(text)), buttons};
     return MessageAnswer::ignore;
   };
@@ -62,7 +62,7 @@ TEST_F(HostServices, WithoutAHostTheScreenHasNoSize) {
 
 TEST_F(HostServices, TheHostTellsTheSizeOfTheScreen) {
   HostFunctions host;
-  host.screen_size = [](void*, float* width, float* height) {
+  host.screen_size = [](void*, float* width, float* height) KW_STDCALL {
     *width = 15360;
     *height = 11520;
   };
