@@ -2,11 +2,12 @@
 #pragma once
 
 #include <cstdint>
+#include <iterator>
+#include <span>
 #include <string_view>
 #include <type_traits>
 
 #include "kwutils/array.h"
-#include "kwutils/error.h"
 #include "kwutils/string.h"
 #include "sort/bounded.h"
 
@@ -24,20 +25,24 @@ struct Moved<String> {
 template <class T>
 using MovedType = typename Moved<T>::Type;
 
+template <class Moving, class T>
+Bounded<Moving> bounded_elements(std::span<T> elements, const SAFEARRAY* array) {
+  static_assert(sizeof(Moving) == sizeof(T) && std::is_standard_layout_v<T>);
+  if (elements.empty()) return {};
+  const std::int32_t lower = array->rgsabound[0].lLbound;
+  const std::int64_t upper = std::int64_t{lower} + std::ssize(elements) - 1;
+  return {reinterpret_cast<Moving*>(elements.data()), lower, static_cast<std::int32_t>(upper)};
+}
+
 // An array that was never dimensioned has no elements here.
 template <class T>
 Bounded<MovedType<T>> bounded(Array<T>& array) {
-  static_assert(sizeof(MovedType<T>) == sizeof(T) && std::is_standard_layout_v<T>);
-  const auto elements = array.elements();
-  if (elements.empty()) return {};
-  return {reinterpret_cast<MovedType<T>*>(elements.data()), array.lower(), array.upper()};
+  return bounded_elements<MovedType<T>>(array.elements(), array.get());
 }
 
 template <class T>
 Bounded<const MovedType<T>> bounded(const Array<T>& array) {
-  const auto elements = array.elements();
-  if (elements.empty()) return {};
-  return {reinterpret_cast<const MovedType<T>*>(elements.data()), array.lower(), array.upper()};
+  return bounded_elements<const MovedType<T>>(array.elements(), array.get());
 }
 
 // Reads the texts of strings.

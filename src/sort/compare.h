@@ -31,6 +31,9 @@ struct NumberOrder {
   }
 };
 
+using Ascending = NumberOrder<Direction::ascending>;
+using Descending = NumberOrder<Direction::descending>;
+
 // Whether one text comes before another. Reader::text(element) is the text of an array's element. A
 // pivot is a view: the characters of an element stay where they are when the element is swapped.
 template <class Reader>

@@ -90,7 +90,7 @@ class MultikeySort {
 
   void sort_range(Range range) {
     while (range.count() > kFewRows) range = partition_range(range);
-    if (range.count() > 1 && !sort_few_rows<Before>(rows_, range.ends.i, range.count()))
+    if (range.count() > 1 && !sort_few_rows<Ascending>(rows_, range.ends.i, range.count()))
       sort_few_with_equals(range);
   }
 
@@ -131,10 +131,8 @@ class MultikeySort {
     };
     const double first = pick();
     const double second = pick();
-    return middle_of_three<Before>(first, second, pick());
+    return middle_of_three(first, second, pick());
   }
-
-  using Before = NumberOrder<Direction::ascending>;
 
   Source& source_;
   Rows<double, Item> rows_;

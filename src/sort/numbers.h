@@ -3,18 +3,20 @@
 
 #include <algorithm>
 #include <bit>
+#include <concepts>
 #include <cstddef>
 #include <cstdint>
-#include <type_traits>
+#include <functional>
 
 #include "sort/block_scheme.h"
 #include "sort/bounded.h"
 #include "sort/checked_scheme.h"
 #include "sort/compare.h"
 #include "sort/counting_sort.h"
+#include "sort/long_radix_sort.h"
 #include "sort/number_survey.h"
 #include "sort/quick_numbers.h"
-#include "sort/radix_sort.h"
+#include "sort/short_radix_sort.h"
 #include "sort/work_array.h"
 
 namespace kw::sort {
@@ -28,56 +30,81 @@ inline constexpr std::size_t kCountingFrom = 16384;
 
 // Sorts numbers that are already in order, or in the opposite order; false for all others, most
 // often after a few of them.
-template <Direction kDirection, class T>
+template <class T>
 bool sort_presorted(T* numbers, std::size_t count) {
-  const NumberOrder<kDirection> before;
   T* const end = numbers + count;
-  if (std::is_sorted(numbers, end, before)) return true;
-  if (!std::is_sorted(numbers, end, [before](T a, T b) { return before(b, a); })) return false;
+  if (std::is_sorted(numbers, end)) return true;
+  if (!std::is_sorted(numbers, end, std::greater<>())) return false;
   std::reverse(numbers, end);
   return true;
 }
 
-template <Direction kDirection>
-bool sort_by_counting(std::int16_t* numbers, std::size_t count) {
+inline bool sort_by_counting(std::int16_t* numbers, std::size_t count) {
   const WorkArray<std::uint32_t> counts(kSixteenBitValues);
-  if (counts) counting_sort<kDirection>(numbers, count, counts.data());
+  if (counts) counting_sort(numbers, count, counts.data());
   return static_cast<bool>(counts);
 }
 
-template <Direction kDirection, class T>
-bool sort_by_radix(T* numbers, std::size_t count, const NumberSurvey<T>& survey) {
+template <class T>
+bool sort_by_radix(T* numbers, std::size_t count, Word<T> varying) {
   const WorkArray<T> work(count);
-  const int high = static_cast<int>(std::bit_width(survey.varying));
-  if (work) RadixSort<kDirection, T>(numbers, work.data(), count, high).finish();
-  return static_cast<bool>(work);
+  if (!work) return false;
+  if constexpr (sizeof(T) == 8)
+    LongRadixSort<T>(numbers, work.data(), count, static_cast<int>(std::bit_width(varying)))
+        .finish();
+  else
+    short_radix_sort(numbers, work.data(), count);
+  return true;
 }
 
 // With working memory; false, and nothing changed, when there is none.
-template <Direction kDirection, class T>
-bool sort_many(T* numbers, std::size_t count, const NumberSurvey<T>& survey) {
+template <class T>
+bool sort_many(T* numbers, std::size_t count, Word<T> varying) {
   if constexpr (sizeof(T) == 2)
-    if (count >= kCountingFrom) return sort_by_counting<kDirection>(numbers, count);
-  return sort_by_radix<kDirection>(numbers, count, survey);
+    if (count >= kCountingFrom) return sort_by_counting(numbers, count);
+  return sort_by_radix(numbers, count, varying);
 }
 
-// Sorts numbers of which every correct order is the same.
+// Sorts, ascending, numbers of which every correct order is the same; `varying`, the bits in which
+// they differ, is looked at when there are 64 of them.
+template <class T>
+void sort_in_one_order(T* numbers, std::size_t count, Word<T> varying) {
+  if (count <= kWidestNetwork) return sort_few_numbers(numbers, count);
+  if (sort_presorted(numbers, count)) return;
+  if (count >= kRadixFrom<T> && sort_many(numbers, count, varying)) return;
+  quick_sort(numbers, count);
+}
+
+// Descending, one order is the other one backwards.
 template <Direction kDirection, class T>
-void sort_in_one_order(T* numbers, std::size_t count, const NumberSurvey<T>& survey) {
-  if (sort_presorted<kDirection>(numbers, count)) return;
-  if (count >= kRadixFrom<T> && sort_many<kDirection>(numbers, count, survey)) return;
-  quick_sort<kDirection>(numbers, count);
+void sort_in_one_order(const Bounded<T>& values, Word<T> varying) {
+  sort_in_one_order(values.data, values.size(), varying);
+  if (kDirection == Direction::descending) std::reverse(values.data, values.data + values.size());
+}
+
+// Whole numbers have one order; only real ones are looked over.
+template <Direction kDirection, std::integral T>
+void sort_any_numbers(const Bounded<T>& values) {
+  static_assert(sizeof(T) < 8);
+  sort_in_one_order<kDirection>(values, Word<T>{0});
+}
+
+template <Direction kDirection, std::floating_point T>
+void sort_any_numbers(const Bounded<T>& values) {
+  const NumberSurvey<T> survey = survey_numbers(values.data, values.size());
+  if (survey.one_order())
+    sort_in_one_order<kDirection>(values, survey.varying);
+  else
+    block_scheme<NumberOrder<kDirection>>(make_rows(values.data), values.size(), values.lower);
 }
 
 // Sorts as the scheme does: see checked_scheme.h for its errors.
 template <Direction kDirection, class T>
 void sort_numbers(const Bounded<T>& values) {
-  if (!can_sort(values)) return checked_scheme(values, nullptr, NumberOrder<kDirection>{});
-  const NumberSurvey<T> survey = survey_numbers(values.data, values.size());
-  if (survey.one_order())
-    sort_in_one_order<kDirection>(values.data, values.size(), survey);
+  if (can_sort(values))
+    sort_any_numbers<kDirection>(values);
   else
-    block_scheme<NumberOrder<kDirection>>(make_rows(values.data), values.size(), values.lower);
+    checked_scheme(values, nullptr, NumberOrder<kDirection>{});
 }
 
 // The same with an order array, which receives the same swaps.

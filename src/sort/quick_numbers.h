@@ -12,36 +12,34 @@
 
 namespace kw::sort {
 
-template <class Before, class T>
+template <class T>
 T middle_of_three(T a, T b, T c) {
-  put_in_order<Before>(a, b);
-  put_in_order<Before>(b, c);
-  put_in_order<Before>(a, b);
+  put_in_order(a, b);
+  put_in_order(b, c);
+  put_in_order(a, b);
   return b;
 }
 
-template <Direction kDirection, class T>
+template <class T>
 void quick_range(T* numbers, Split range, PendingRanges<Split>& pending) {
-  using Before = NumberOrder<kDirection>;
   while (range.i < range.j) {
     T* const first = numbers + range.i;
     const std::ptrdiff_t count = range.j - range.i + 1;
     if (count <= static_cast<std::ptrdiff_t>(kWidestNetwork))
-      return sort_few_numbers<kDirection>(first, static_cast<std::size_t>(count));
-    const T pivot =
-        middle_of_three<Before>(first[count / 4], first[count / 2], first[count / 4 * 3]);
-    const auto [i, j, equal] = partition<Before>(make_rows(numbers), range, pivot);
+      return sort_few_numbers(first, static_cast<std::size_t>(count));
+    const T pivot = middle_of_three(first[count / 4], first[count / 2], first[count / 4 * 3]);
+    const auto [i, j, equal] = partition<Ascending>(make_rows(numbers), range, pivot);
     if (equal) return;
     range = smaller_side(range, {i, j}, pending);
   }
 }
 
-// Sorts in place, with the partitions of the scheme but pivots of its own choice.
-template <Direction kDirection, class T>
+// Sorts in place, ascending, with the partitions of the scheme but pivots of its own choice.
+template <class T>
 void quick_sort(T* numbers, std::size_t count) {
   PendingRanges<Split> pending;
   pending.push({0, static_cast<std::ptrdiff_t>(count) - 1});
-  while (!pending.empty()) quick_range<kDirection>(numbers, pending.pop(), pending);
+  while (!pending.empty()) quick_range(numbers, pending.pop(), pending);
 }
 
 }  // namespace kw::sort

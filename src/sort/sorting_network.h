@@ -6,8 +6,6 @@
 #include <limits>
 #include <utility>
 
-#include "sort/compare.h"
-
 namespace kw::sort {
 
 struct Comparator {
@@ -40,48 +38,44 @@ constexpr auto comparators() {
 }
 
 // Two conditions rather than one, so that compilers see a minimum and a maximum and no branch.
-template <class Before, class T>
+template <class T>
 void put_in_order(T& low, T& high) {
   const T a = low;
   const T b = high;
-  low = Before{}(a, b) ? a : b;
-  high = Before{}(b, a) ? a : b;
+  low = a < b ? a : b;
+  high = b < a ? a : b;
 }
 
-template <class Before, class T, std::size_t kWidth, std::size_t... kAt>
+template <class T, std::size_t kWidth, std::size_t... kAt>
 void run_network(std::array<T, kWidth>& places, std::index_sequence<kAt...>) {
   constexpr auto kList = comparators<kWidth>();
-  (put_in_order<Before>(places[kList[kAt].low], places[kList[kAt].high]), ...);
+  (put_in_order(places[kList[kAt].low], places[kList[kAt].high]), ...);
 }
 
 // What comes after every number, or with the last.
-template <Direction kDirection, class T>
+template <class T>
 constexpr T last_of_all() {
   using Limits = std::numeric_limits<T>;
-  if constexpr (kDirection == Direction::ascending)
-    return Limits::has_infinity ? Limits::infinity() : Limits::max();
-  else
-    return Limits::has_infinity ? -Limits::infinity() : Limits::lowest();
+  return Limits::has_infinity ? Limits::infinity() : Limits::max();
 }
 
-// Sorts at most `kWidth` numbers, none of them a NaN.
-template <Direction kDirection, std::size_t kWidth, class T>
+// Sorts at most `kWidth` numbers, none of them a NaN, ascending.
+template <std::size_t kWidth, class T>
 void sort_by_network(T* numbers, std::size_t count) {
   std::array<T, kWidth> places;
-  places.fill(last_of_all<kDirection, T>());
+  places.fill(last_of_all<T>());
   for (std::size_t k = 0; k < count; ++k) places[k] = numbers[k];
-  run_network<NumberOrder<kDirection>>(places,
-                                       std::make_index_sequence<comparator_count(kWidth)>{});
+  run_network(places, std::make_index_sequence<comparator_count(kWidth)>{});
   for (std::size_t k = 0; k < count; ++k) numbers[k] = places[k];
 }
 
 inline constexpr std::size_t kWidestNetwork = 16;
 
-template <Direction kDirection, class T>
+template <class T>
 void sort_few_numbers(T* numbers, std::size_t count) {
-  if (count <= 4) return sort_by_network<kDirection, 4>(numbers, count);
-  if (count <= 8) return sort_by_network<kDirection, 8>(numbers, count);
-  sort_by_network<kDirection, kWidestNetwork>(numbers, count);
+  if (count <= 4) return sort_by_network<4>(numbers, count);
+  if (count <= 8) return sort_by_network<8>(numbers, count);
+  sort_by_network<kWidestNetwork>(numbers, count);
 }
 
 }  // namespace kw::sort

@@ -57,9 +57,9 @@ void arrange(const TextPlaces& places, std::size_t count, std::int32_t lower, Di
   if (places.distinct()) return (move_to_places(columns, count, places, direction), ...);
   const auto rows = make_rows(places.ranks(), columns...);
   if (direction == Direction::ascending)
-    block_scheme<NumberOrder<Direction::ascending>>(rows, count, lower);
+    block_scheme<Ascending>(rows, count, lower);
   else
-    block_scheme<NumberOrder<Direction::descending>>(rows, count, lower);
+    block_scheme<Descending>(rows, count, lower);
 }
 
 // Sorts as the scheme does: see checked_scheme.h for its errors. Elements are handles of texts that

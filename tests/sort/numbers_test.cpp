@@ -105,6 +105,18 @@ TYPED_TEST(SortNumbers, AgreesWithTheSchemeOnNumbersThatShareUpperBits) {
   }
 }
 
+// In the long form so many that their upper bits take another digit.
+TEST(SortManyNumbers, SortsDoublesAsTheStandardSortDoes) {
+  Random random(6);
+  std::vector<double> values(reference::long_tests() ? 17'000'000 : 200'000);
+  for (double& value : values) value = any_number<double>(random);
+  std::vector<double> expected = values;
+  std::sort(expected.begin(), expected.end());
+  BasedArray<double> array{1, std::move(values)};
+  sort_numbers<kAscending>(bounded(array));
+  EXPECT_TRUE(same_bits(array.values, expected));
+}
+
 // Numbers whose greatest one is at the middle of every range that the scheme comes to.
 template <class T>
 std::vector<T> worst_case(std::size_t count) {

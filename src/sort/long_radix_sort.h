@@ -1,34 +1,20 @@
-// Radix sort, least significant digit first, of numbers that have one order.
+// Radix sort of numbers of 64 bits, by the upper bits in which they differ.
 #pragma once
 
 #include <algorithm>
 #include <array>
-#include <bit>
 #include <cstddef>
 #include <cstdint>
 #include <utility>
 
-#include "sort/compare.h"
 #include "sort/number_key.h"
 #include "sort/quick_numbers.h"
+#include "sort/radix_digits.h"
 
 namespace kw::sort {
 
-inline constexpr int kDigitBits = 11;
-
-// Of few numbers shorter digits are faster: their counts are sooner cleared and added up.
-inline constexpr int kShortDigitBits = 8;
-
-// The key by which numbers are sorted in a direction.
-template <Direction kDirection, class T>
-Word<T> directed_key(T number) noexcept {
-  const Word<T> key = key_of(number);
-  return kDirection == Direction::ascending ? key : static_cast<Word<T>>(~key);
-}
-
 inline int digit_bits(std::size_t count) {
-  constexpr std::size_t kFew = 1500;
-  return count < kFew ? kShortDigitBits : kDigitBits;
+  return count < kShortDigitsBelow ? kShortDigitBits : kDigitBits;
 }
 
 // Where in the key a digit lies.
@@ -56,67 +42,58 @@ std::array<Digit, kDigits> digits_between(int low, int high) {
 
 using Histogram = std::array<std::uint32_t, std::size_t{1} << kDigitBits>;
 
-inline void counts_to_positions(Histogram& counts, std::size_t last) {
-  std::uint32_t position = 0;
-  for (std::size_t value = 0; value <= last; ++value)
-    position += std::exchange(counts[value], position);
-}
-
 // Sorts by the key bits from `low` to `high`, in as many passes as there are digits. Gives where
 // the numbers are then: `from` or `to`.
-template <Direction kDirection, int kDigits, class T>
+template <int kDigits, class T>
 T* sort_by_digits(T* from, T* to, std::size_t count, int low, int high) {
   const auto digits = digits_between<kDigits>(low, high);
   std::array<Histogram, kDigits> counts;
   for (std::size_t d = 0; d < kDigits; ++d) std::fill_n(counts[d].begin(), digits[d].mask + 1, 0u);
   for (std::size_t k = 0; k < count; ++k) {
-    const auto key = directed_key<kDirection>(from[k]);
+    const auto key = key_of(from[k]);
     for (std::size_t d = 0; d < kDigits; ++d) ++counts[d][digits[d].of(key)];
   }
   for (std::size_t d = 0; d < kDigits; ++d) {
     const Digit digit = digits[d];
-    counts_to_positions(counts[d], digit.mask);
-    for (std::size_t k = 0; k < count; ++k) {
-      const T number = from[k];
-      to[counts[d][digit.of(directed_key<kDirection>(number))]++] = number;
-    }
+    counts_to_positions(counts[d].data(), digit.mask + 1);
+    move_by_digit(from, to, count, counts[d].data(),
+                  [digit](T number) { return digit.of(key_of(number)); });
     std::swap(from, to);
   }
   return from;
 }
 
-template <Direction kDirection, class T>
+template <class T>
 T* sort_by_bits(T* from, T* to, std::size_t count, int low, int high) {
   const int width = digit_bits(count);
   switch ((high - low + width - 1) / width) {
     case 0:
       return from;
     case 1:
-      return sort_by_digits<kDirection, 1>(from, to, count, low, high);
+      return sort_by_digits<1>(from, to, count, low, high);
     case 2:
-      return sort_by_digits<kDirection, 2>(from, to, count, low, high);
+      return sort_by_digits<2>(from, to, count, low, high);
     case 3:
-      return sort_by_digits<kDirection, 3>(from, to, count, low, high);
+      return sort_by_digits<3>(from, to, count, low, high);
     default:
-      return sort_by_digits<kDirection, 4>(from, to, count, low, high);
+      return sort_by_digits<4>(from, to, count, low, high);
   }
 }
 
-// Sorts numbers that have one order, and whose keys differ in the bits below `high` at most.
-// `work` has room for `count` numbers.
+// Sorts, ascending, numbers that have one order, and whose keys differ in the bits below `high` at
+// most. `work` has room for `count` numbers.
 //
-// Long keys are sorted by their upper bits only, which leaves few numbers out of order; those are
-// moved into place one by one, and where many numbers share their upper bits, the remaining bits of
-// these are sorted apart.
-template <Direction kDirection, class T>
-class RadixSort {
+// The upper bits alone leave few numbers out of order. These are moved into place one by one; where
+// many numbers share their upper bits, they are sorted apart by the remaining ones.
+template <class T>
+class LongRadixSort {
  public:
-  RadixSort(T* numbers, T* work, std::size_t count, int high)
+  LongRadixSort(T* numbers, T* work, std::size_t count, int high)
       : numbers_(numbers),
         work_(work),
         count_(count),
         low_(std::max(0, high - wanted_bits(count))) {
-    sorted_ = sort_by_bits<kDirection>(numbers, work, count, low_, high);
+    sorted_ = sort_by_bits(numbers, work, count, low_, high);
   }
 
   void finish() {
@@ -137,7 +114,7 @@ class RadixSort {
     for (std::size_t k = 0; k < count_;) {
       const T number = sorted_[k];
       std::size_t at = k;
-      while (at > 0 && NumberOrder<kDirection>{}(number, numbers_[at - 1]) && k - at < kFew) {
+      while (at > 0 && number < numbers_[at - 1] && k - at < kFew) {
         numbers_[at] = numbers_[at - 1];
         --at;
       }
@@ -160,8 +137,8 @@ class RadixSort {
   }
   void sort_group(T* group, T* work, std::size_t count) {
     constexpr std::size_t kFewForRadix = 1000;
-    if (count < kFewForRadix) return quick_sort<kDirection>(group, count);
-    T* const sorted = sort_by_bits<kDirection>(group, work, count, 0, low_);
+    if (count < kFewForRadix) return quick_sort(group, count);
+    T* const sorted = sort_by_bits(group, work, count, 0, low_);
     if (sorted != group) std::copy_n(sorted, count, group);
   }
 
