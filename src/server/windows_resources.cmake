@@ -26,3 +26,13 @@ target_sources(kwutils_server PRIVATE ${CMAKE_CURRENT_BINARY_DIR}/kwutils.rc)
 target_include_directories(kwutils_server PRIVATE ${CMAKE_CURRENT_BINARY_DIR})
 set_source_files_properties(${CMAKE_CURRENT_BINARY_DIR}/kwutils.rc PROPERTIES
   OBJECT_DEPENDS ${type_library})
+
+# What lets programs use the library without registration.
+set(KW_ASSEMBLY_VERSION ${PROJECT_VERSION_MAJOR}.${PROJECT_VERSION_MINOR}.0.${PROJECT_VERSION_PATCH})
+if(CMAKE_SIZEOF_VOID_P EQUAL 4)
+  set(KW_ARCHITECTURE x86)
+else()
+  set(KW_ARCHITECTURE amd64)
+endif()
+configure_file(${CMAKE_CURRENT_SOURCE_DIR}/kwutils.manifest.in
+  ${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/kwUtils.manifest @ONLY)

@@ -9,4 +9,4 @@
 #define KW_AUTOMATION_API __declspec(dllimport)
 
 // Marks a function that this library exports; on this system the definition file does.
-#define KW_EXPORT 
+#define KW_EXPORT

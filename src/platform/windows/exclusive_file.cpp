@@ -116,7 +116,9 @@ bool ExclusiveFile::move_to(const FileName& target) {
   }
   if (code == ERROR_NOT_SAME_DEVICE) return false;
   if (code != 0) throw_file_error(code, target.given);
+  // From here on others may open the file: under its new name nothing is exclusive.
   moved_ = true;
+  buffer_.drop();
   return true;
 }
 

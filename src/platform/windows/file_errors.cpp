@@ -7,6 +7,12 @@ namespace {
 
 constexpr std::uint32_t kDiskQuotaExceeded = 1295;  // missing in the headers
 
+bool folder_exists(const FileName& name) {
+  const std::u16string path = full_path(name.path);
+  const std::u16string folder = path.substr(0, path.find_last_of(u"\\/") + 1);
+  return GetFileAttributesW(wide(folder)) != INVALID_FILE_ATTRIBUTES;
+}
+
 }  // namespace
 
 ErrorNumber error_number(std::uint32_t code) noexcept {
@@ -49,6 +55,12 @@ ErrorNumber error_number(std::uint32_t code) noexcept {
 
 void throw_file_error(std::uint32_t code, const std::string& name) {
   throw Error(error_number(code), name, static_cast<std::int32_t>(code));
+}
+
+void throw_lookup_error(std::uint32_t code, const FileName& name) {
+  if (code == ERROR_FILE_NOT_FOUND && !folder_exists(name))
+    throw Error(ErrorNumber::path_not_found, name.given, static_cast<std::int32_t>(code));
+  throw_file_error(code, name.given);
 }
 
 }  // namespace kw::platform

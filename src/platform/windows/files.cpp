@@ -45,12 +45,12 @@ class SystemFiles : public FileService {
   void check_attributes(std::u16string_view name) override {
     const FileName file = native_name(name);
     if (GetFileAttributesW(wide(file.path)) == INVALID_FILE_ATTRIBUTES)
-      throw_file_error(GetLastError(), file.given);
+      throw_lookup_error(GetLastError(), file);
   }
 
   void remove(std::u16string_view name) override {
     const FileName file = native_name(name);
-    if (!DeleteFileW(wide(file.path))) throw_file_error(GetLastError(), file.given);
+    if (!DeleteFileW(wide(file.path))) throw_lookup_error(GetLastError(), file);
   }
 };
 

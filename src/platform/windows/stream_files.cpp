@@ -13,6 +13,15 @@ namespace {
 
 constexpr std::size_t kMostAtOnce = 16 * 1024 * 1024;
 
+// A file that somebody holds is tried again after 1, 2, 3 ... milliseconds.
+constexpr DWORD kLongestPause = 10;
+
+Handle opened_for_reading(const FileName& name) {
+  constexpr DWORD kSharing = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+  return Handle(CreateFileW(wide(name.path), GENERIC_READ, kSharing, nullptr, OPEN_EXISTING,
+                            FILE_ATTRIBUTE_NORMAL, nullptr));
+}
+
 bool is_on_disk(const Handle& file) { return GetFileType(file.get()) == FILE_TYPE_DISK; }
 
 class SystemInput : public InputFile {
@@ -79,10 +88,14 @@ class SystemOutput : public OutputFile {
 }  // namespace
 
 std::unique_ptr<InputFile> open_system_input(FileName name) {
-  constexpr DWORD kSharing = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
-  Handle file(CreateFileW(wide(name.path), GENERIC_READ, kSharing, nullptr, OPEN_EXISTING,
-                          FILE_ATTRIBUTE_NORMAL, nullptr));
-  if (!file) throw_file_error(GetLastError(), name.given);
+  Handle file = opened_for_reading(name);
+  // A file that has just been put in its place is still held for a moment.
+  for (DWORD pause = 1;
+       !file && GetLastError() == ERROR_SHARING_VIOLATION && pause <= kLongestPause; ++pause) {
+    Sleep(pause);
+    file = opened_for_reading(name);
+  }
+  if (!file) throw_lookup_error(GetLastError(), name);
   return std::make_unique<SystemInput>(std::move(file), std::move(name));
 }
 
@@ -91,7 +104,7 @@ std::unique_ptr<OutputFile> create_system_output(FileName name) {
   constexpr DWORD kSharing = FILE_SHARE_READ | FILE_SHARE_WRITE;
   Handle file(CreateFileW(wide(name.path), GENERIC_WRITE, kSharing, nullptr, OPEN_ALWAYS,
                           FILE_ATTRIBUTE_NORMAL, nullptr));
-  if (!file) throw_file_error(GetLastError(), name.given);
+  if (!file) throw_lookup_error(GetLastError(), name);
   if (is_on_disk(file) && !SetEndOfFile(file.get())) throw_file_error(GetLastError(), name.given);
   return std::make_unique<SystemOutput>(std::move(file), std::move(name));
 }

@@ -22,6 +22,8 @@ class WriteBuffer {
   void close();
 
   const Handle& file() const noexcept { return file_; }
+  // Closes the file without a word about what is still buffered.
+  void drop() noexcept { file_.close(); }
 
  private:
   void check() const;
