@@ -116,6 +116,18 @@ TEST_F(WindowsFiles, WithImpossibleNamesAreRefused) {
   }
 }
 
+TEST_F(WindowsFiles, MayHaveSeveralNames) {
+  folder_.write("a.ent", "x");
+  folder_.write("b.ent", "x");
+  const std::u16string a = folder_.name("a.ent"), link = folder_.name("link.ent");
+  ASSERT_TRUE(CreateHardLinkW(wide(link), wide(a), nullptr));
+  EXPECT_TRUE(files().same_file(a, link));
+  EXPECT_TRUE(files().same_file(a, folder_.name(".\\A.ENT")));
+  EXPECT_FALSE(files().same_file(a, folder_.name("b.ent")));
+  EXPECT_FALSE(files().same_file(folder_.name("gone"), folder_.name("gone")));
+  EXPECT_FALSE(files().same_file(u"", u""));
+}
+
 TEST_F(WindowsFiles, AreEmptiedThoughTheyAreHidden) {
   folder_.write("a.ent", "old and long");
   const std::u16string name = folder_.name("a.ent");

@@ -51,6 +51,15 @@ void set_traits(const Handle& file, const FileTraits& traits, const FileName& na
     throw_file_error(GetLastError(), name.given);
 }
 
+bool is_one_file(const std::u16string& left, const std::u16string& right) {
+  const Handle a = open_for_facts(left), b = open_for_facts(right);
+  BY_HANDLE_FILE_INFORMATION of_a = {}, of_b = {};
+  return a && b && GetFileInformationByHandle(a.get(), &of_a) &&
+         GetFileInformationByHandle(b.get(), &of_b) &&
+         of_a.dwVolumeSerialNumber == of_b.dwVolumeSerialNumber &&
+         of_a.nFileIndexHigh == of_b.nFileIndexHigh && of_a.nFileIndexLow == of_b.nFileIndexLow;
+}
+
 bool is_link(const Handle& file) {
   FILE_ATTRIBUTE_TAG_INFO tag = {};
   return GetFileInformationByHandleEx(file.get(), FileAttributeTagInfo, &tag, sizeof tag) &&

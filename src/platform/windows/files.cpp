@@ -4,6 +4,7 @@
 #include "platform/system_files.h"
 #include "platform/windows/file_errors.h"
 #include "platform/windows/file_name.h"
+#include "platform/windows/file_traits.h"
 #include "platform/windows/replacement.h"
 #include "platform/windows/stream_files.h"
 #include "platform/windows/system.h"
@@ -38,6 +39,14 @@ class SystemFiles : public FileService {
       return true;
     } catch (const Error& error) {
       if (!says_missing(error)) throw;
+      return false;
+    }
+  }
+
+  bool same_file(std::u16string_view first, std::u16string_view second) override {
+    try {
+      return is_one_file(native_name(first).path, native_name(second).path);
+    } catch (const Error&) {
       return false;
     }
   }

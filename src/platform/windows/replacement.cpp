@@ -53,13 +53,7 @@ bool is_same_path(const FileName& left, const FileName& right) {
 }
 
 bool is_same_file(const FileName& left, const FileName& right) {
-  if (is_same_path(left, right)) return true;
-  const Handle a = open_for_facts(left.path), b = open_for_facts(right.path);
-  BY_HANDLE_FILE_INFORMATION of_a = {}, of_b = {};
-  return a && b && GetFileInformationByHandle(a.get(), &of_a) &&
-         GetFileInformationByHandle(b.get(), &of_b) &&
-         of_a.dwVolumeSerialNumber == of_b.dwVolumeSerialNumber &&
-         of_a.nFileIndexHigh == of_b.nFileIndexHigh && of_a.nFileIndexLow == of_b.nFileIndexLow;
+  return is_same_path(left, right) || is_one_file(left.path, right.path);
 }
 
 // A name beside the target, made the same way by everybody, so that two writers meet there.
