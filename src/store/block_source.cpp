@@ -1,6 +1,5 @@
 #include "store/block_source.h"
 
-#include <algorithm>
 #include <cstring>
 #include <new>
 
@@ -26,26 +25,28 @@ std::size_t block_for(std::int64_t size) {
 BlockSource::BlockSource(platform::InputFile& file)
     : file_(file), find_line_ends_(line_end_finder()), block_(block_for(file.size_hint())) {
   reserve(block_ + kLineRoom);
-  begin_ = slice_ = buffer_.get();
-  ends_.reset(new std::uint32_t[std::min(kSlice, capacity_) + kFinderSlack]);
+  // A slice is a part of what one read gives, and the CR that waited for it.
+  const std::size_t entries = std::min(kSlice, block_ + 1) + kFinderSlack;
+  ends_.reset(new std::uint32_t[entries]);
+  odd_blanks_.reset(new std::uint32_t[entries]);
+  start_slice(data(), {});
 }
 
+// No line is at hand when the buffer moves.
 void BlockSource::reserve(std::size_t capacity) {
-  const std::size_t begin = static_cast<std::size_t>(begin_ - buffer_.get());
-  const std::size_t padded = capacity + 1 + kFinderPadding;
-  char* const memory = static_cast<char*>(std::realloc(buffer_.get(), padded));
+  const std::size_t padded = kPadding + capacity + 1 + kPadding;
+  char* const memory = static_cast<char*>(std::realloc(memory_.get(), padded));
   if (memory == nullptr) throw std::bad_alloc();
-  static_cast<void>(buffer_.release());  // realloc took it over
-  buffer_.reset(memory);
+  static_cast<void>(memory_.release());  // realloc took it over
+  memory_.reset(memory);
   capacity_ = capacity;
-  begin_ = memory + begin;
 }
 
 bool BlockSource::find_more() {
   for (;;) {
     while (has_unsearched()) {
       find_ends();
-      if (next_end_ != last_end_) return true;
+      if (!lines_.empty()) return true;
     }
     if (file_ended_) return end_last_line();
     read_more();
@@ -55,58 +56,60 @@ bool BlockSource::find_more() {
 bool BlockSource::has_unsearched() const noexcept {
   if (searched_ == filled_) return false;
   // Whether a CR ends a line is known with the byte behind it.
-  return file_ended_ || searched_ + 1 < filled_ || buffer_.get()[searched_] != '\r';
+  return file_ended_ || searched_ + 1 < filled_ || data()[searched_] != '\r';
 }
 
 void BlockSource::find_ends() {
   std::size_t end = std::min(searched_ + kSlice, filled_);
-  if (end == filled_ && !file_ended_ && buffer_.get()[end - 1] == '\r') --end;
-  const bool continues_line = buffer_.get() + searched_ != begin_;
-  slice_ = buffer_.get() + searched_;
-  const LineEnds found = find_line_ends_(slice_, end - searched_, ends_.get());
-  odd_blanks_ = found.odd_blanks || (odd_blanks_ && continues_line);
-  next_end_ = ends_.get();
-  last_end_ = next_end_ + found.count;
+  if (end == filled_ && !file_ended_ && data()[end - 1] == '\r') --end;
+  const char* const slice = data() + searched_;
+  start_slice(slice, find_line_ends_(slice, end - searched_, ends_.get(), odd_blanks_.get()));
   searched_ = end;
 }
 
+// The next line may have begun in front of the slice.
+void BlockSource::start_slice(const char* slice, LineEnds found) {
+  odd_blanks_[found.odd_blanks] = LineCursor::kNoOffset;
+  const char* const begin = lines_.begin() != nullptr ? lines_.begin() : slice;
+  lines_ =
+      LineCursor(begin, slice, ends_.get(), found.ends, odd_blanks_.get(), lines_.odd_behind());
+}
+
 // A last line without an end ends with the file.
-bool BlockSource::end_last_line() noexcept {
-  const char* const end = buffer_.get() + filled_;
-  if (begin_ >= end) return false;
-  slice_ = end;
+bool BlockSource::end_last_line() {
+  const char* const end = data() + filled_;
+  if (lines_.begin() >= end) return false;
   ends_[0] = 0;
-  next_end_ = ends_.get();
-  last_end_ = next_end_ + 1;
+  start_slice(end, {.ends = 1});
   return true;
 }
 
 void BlockSource::read_more() {
   move_to_front();
   if (capacity_ - filled_ < block_) reserve(std::max(capacity_ * 2, filled_ + block_));
-  const std::size_t count = file_.read(buffer_.get() + filled_, block_);
+  lines_.move_to(data());
+  const std::size_t count = file_.read(data() + filled_, block_);
   filled_ += count;
   file_ended_ = count == 0;
   // No LF follows a CR at the end. An empty buffer stays as it is: it may show the last line still.
-  if (filled_ != 0) buffer_.get()[filled_] = '\0';
+  if (filled_ != 0) data()[filled_] = '\0';
 }
 
 void BlockSource::move_to_front() noexcept {
-  const auto used = std::min(static_cast<std::size_t>(begin_ - buffer_.get()), filled_);
-  filled_ -= used;
-  searched_ -= used;
-  if (filled_ != 0) std::memmove(buffer_.get(), begin_, filled_);
-  begin_ = slice_ = buffer_.get();
-  buffer_position_ += static_cast<std::int64_t>(used);
+  const auto gone = static_cast<std::size_t>(offset(used()));
+  filled_ -= gone;
+  searched_ -= gone;
+  if (filled_ != 0) std::memmove(data(), data() + gone, filled_);
+  buffer_position_ += static_cast<std::int64_t>(gone);
 }
 
 void BlockSource::seek(std::int64_t position) {
   file_.seek(position);
-  begin_ = slice_ = buffer_.get();
-  next_end_ = last_end_ = ends_.get();
+  lines_ = LineCursor();
   filled_ = searched_ = 0;
+  start_slice(data(), {});
   buffer_position_ = position;
-  file_ended_ = odd_blanks_ = false;
+  file_ended_ = false;
 }
 
 }  // namespace kw::store

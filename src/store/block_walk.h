@@ -28,6 +28,7 @@
 #include <cstdint>
 #include <string_view>
 
+#include "store/record_bits.h"
 #include "store/record_reader.h"
 #include "store/type_word.h"
 
@@ -45,20 +46,24 @@ class BlockWalk {
   // Goes on to the next opening record of the type and gives what follows its first word; false at
   // the end of the file. The rest of that block is then the caller's to read.
   bool next(std::string_view& rest) {
-    return next(rest, [](std::string_view) { return true; });
+    return next_but(rest, [](const char*) { return false; });
   }
+
+  // The same without blocks that are surely not wanted: bool is_unwanted(behind_word) is asked with
+  // what follows the first word and one blank. 32 bytes can be read there, be they the record's or
+  // not. It may be asked at any record, and should not branch.
+  template <class IsUnwanted>
+  bool next_but(std::string_view& rest, IsUnwanted&& is_unwanted);
 
   // The same with a test of each record: bool is_candidate(record).
   template <class IsCandidate>
-  bool next(std::string_view& rest, IsCandidate&& is_candidate) {
+  bool next_candidate(std::string_view& rest, IsCandidate&& is_candidate) {
     while (!records_.at_end()) {
       position_ = records_.position();
       const std::string_view record = records_.next();
       const bool first = first_;
       first_ = false;
-      if (!is_candidate(record)) continue;
-      if (type_.opens(record, rest)) return true;
-      pass(record, first || header_ == SixLetters::every_record);
+      if (is_candidate(record) && open(record, rest, first)) return true;
     }
     return false;
   }
@@ -71,10 +76,14 @@ class BlockWalk {
   void pass_rest(std::string_view record) { pass_block(record, type_.closing()); }
 
  private:
-  void pass(std::string_view record, bool may_be_header);
+  // Whether the record opens a block of the type; passes over the block when not.
+  bool open(std::string_view record, std::string_view& rest, bool first);
   void pass_block(std::string_view record, const ClosingWord& closing) {
     while (!closing.closes(record) && !records_.at_end()) record = records_.next();
   }
+  template <class IsUnwanted>
+  bool skim(std::string_view& rest, IsUnwanted& is_unwanted);
+  bool take_unusual(std::string_view line, BlockState& block, std::string_view& rest);
 
   RecordReader& records_;
   const TypeWord& type_;
@@ -84,12 +93,80 @@ class BlockWalk {
   bool first_ = true;
 };
 
-// Passes over a foreign block, or over a header alone.
-inline void BlockWalk::pass(std::string_view record, bool may_be_header) {
+inline bool BlockWalk::open(std::string_view record, std::string_view& rest, bool first) {
+  if (type_.opens(record, rest)) return true;
   const RecordWord opening = take_first_word(record);
-  if (may_be_header && opening.word.size() == 6) return;
+  const bool may_be_header = first || header_ == SixLetters::every_record;
+  if (may_be_header && opening.word.size() == 6) return false;
   foreign_.follow(opening.word);
   pass_block(opening.rest, foreign_);
+  return false;
+}
+
+template <class IsUnwanted>
+bool BlockWalk::next_but(std::string_view& rest, IsUnwanted&& is_unwanted) {
+  while (!records_.at_end()) {
+    if (!first_ && type_.has_bits()) return skim(rest, is_unwanted);
+    const bool first = first_;
+    first_ = false;
+    position_ = records_.position();
+    if (open(records_.next(), rest, first)) return true;
+  }
+  return false;
+}
+
+// The types, and how many records a block has, cannot be foreseen, so the loop for usual records
+// does not branch on them: a record inside a block and one that opens a block differ in what is
+// selected. Whatever is not usual goes the long way, to the end of its block.
+template <class IsUnwanted>
+bool BlockWalk::skim(std::string_view& rest, IsUnwanted& is_unwanted) {
+  const TypeBits type = type_.bits();
+  const std::size_t header_size = header_ == SixLetters::every_record ? 6 : 0;
+  BlockState block;
+  while (!records_.at_end()) {
+    LineCursor lines = records_.lines();
+    while (!lines.empty()) {
+      const std::string_view line = lines.next();
+      std::string_view record;
+      if (!is_usual_record(line, lines.odd(), record)) {
+        records_.lines() = lines;
+        if (take_unusual(line, block, rest)) return true;
+        lines = records_.lines();
+        continue;
+      }
+      const RecordBits bits(record);
+      const bool opens = type.open(bits.first_8) & (!is_unwanted(record.data() + bits.size + 1));
+      const bool long_way = bits.has_unusual_word(record) | (bits.size == header_size);
+      if ((opens | long_way) & (!block.inside())) {
+        records_.lines() = lines;
+        position_ = records_.position_of(line);
+        if (opens) {
+          rest = parse::trim_left(record.substr(bits.size + 1));
+          return true;
+        }
+        if (open(record, rest, false)) return true;
+        lines = records_.lines();
+        continue;
+      }
+      block.take(bits);
+    }
+    records_.lines() = lines;
+  }
+  return false;
+}
+
+// Whether the record that begins with that line opens a block of the type. The block that it
+// belongs to, when not, is passed over.
+[[gnu::noinline]] inline bool BlockWalk::take_unusual(std::string_view line, BlockState& block,
+                                                      std::string_view& rest) {
+  if (!block.inside()) {
+    position_ = records_.position_of(line);
+    return open(records_.record_from(line), rest, false);
+  }
+  foreign_.follow_bits(block.closing(), block.closing_size());
+  block.leave();
+  pass_block(records_.record_from(line), foreign_);
+  return false;
 }
 
 }  // namespace kw::store

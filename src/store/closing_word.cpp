@@ -7,13 +7,13 @@ namespace kw::store {
 
 ClosingWord::ClosingWord(std::u16string_view opening) : size_(opening.size()) {
   in_page_ = narrow_exact(lower(opening), text_);
-  if (in_page_ && size_ >= 1 && size_ <= 8) set(load_up_to_8(text_.data(), size_), size_);
+  if (in_page_ && size_ >= 1 && size_ <= 8) follow_bits(load_up_to_8(text_.data(), size_), size_);
 }
 
 void ClosingWord::follow(std::string_view opening) {
   if (opening.size() >= 1 && opening.size() <= 8) {
     const std::uint64_t bits = load_up_to_8(opening.data(), opening.size());
-    if (all_ascii(bits)) return set(lower_ascii(bits), opening.size());
+    if (all_ascii(bits)) return follow_bits(lower_ascii(bits), opening.size());
   }
   in_bits_ = false;
   in_page_ = true;

@@ -20,6 +20,8 @@ class ClosingWord {
 
   // Becomes the lower case of the word that opened a block.
   void follow(std::string_view opening);
+  // Becomes a word of 1 to 8 characters.
+  void follow_bits(std::uint64_t lower_case, std::size_t size) noexcept;
 
   std::size_t size() const noexcept { return size_; }
 
@@ -34,7 +36,6 @@ class ClosingWord {
 
  private:
   bool closes_slowly(std::string_view record) const noexcept;
-  void set(std::uint64_t bits, std::size_t size) noexcept;
 
   std::size_t size_ = 0;
   bool in_bits_ = false;  // 1 to 8 characters, kept in bits_
@@ -43,7 +44,7 @@ class ClosingWord {
   std::string text_;  // any other length
 };
 
-inline void ClosingWord::set(std::uint64_t bits, std::size_t size) noexcept {
+inline void ClosingWord::follow_bits(std::uint64_t bits, std::size_t size) noexcept {
   size_ = size;
   bits_ = bits;
   in_bits_ = in_page_ = true;

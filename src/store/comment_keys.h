@@ -27,9 +27,4 @@ inline CommentKind comment_kind(std::string_view line) noexcept {
   return CommentKind::none;
 }
 
-// Whether a line may be a comment at all, told by its first byte.
-constexpr bool may_begin_comment(char first) noexcept {
-  return first == ';' || first == '*' || first == '/';
-}
-
 }  // namespace kw::store

@@ -3,6 +3,7 @@
 #include <string>
 
 #include "base/code_page.h"
+#include "base/find_text.h"
 #include "parse/item.h"
 #include "parse/line.h"
 #include "store/entity_reader.h"
@@ -16,6 +17,10 @@ class Word {
  public:
   explicit Word(std::u16string_view text) : in_page_(narrow_exact(text, bytes_)) {}
   bool is(std::string_view word) const noexcept { return in_page_ && word == bytes_; }
+  // False when no word of the text is this one.
+  bool may_be_in(std::string_view text) const noexcept {
+    return in_page_ && (bytes_.empty() || find_text(text, bytes_) != kNotFound);
+  }
 
  private:
   std::string bytes_;
@@ -46,6 +51,8 @@ class Counter {
       : key_(key), id_(id), counts_(counts) {}
 
   void take_entity(std::string_view text) {
+    // Most entities hold neither value, which is cheaper to see than their words.
+    if (!id_.value.may_be_in(text) && !key_.value.may_be_in(text)) return;
     key_met_ = id_met_ = false;
     while (!parse::trim(text).empty()) {
       std::string_view line = parse::take_line(text);

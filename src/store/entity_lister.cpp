@@ -9,9 +9,12 @@ namespace kw::store {
 
 namespace {
 
-bool is_temporary(std::string_view id) {
-  if (id.size() < 3) return false;
-  return lower(widen(id.substr(0, 3))) == u"tmp";
+bool is_temporary(std::string_view id) noexcept {
+  constexpr std::u16string_view kPrefix = u"tmp";
+  if (id.size() < kPrefix.size()) return false;
+  for (std::size_t i = 0; i < kPrefix.size(); ++i)
+    if (to_lower(decode(static_cast<unsigned char>(id[i]))) != kPrefix[i]) return false;
+  return true;
 }
 
 // The answers of a list that may be anything: whether it took the item.
@@ -38,6 +41,9 @@ void EntityLister::clear(const ListVariables& variables) {
 }
 
 void EntityLister::take(std::string_view line, std::int64_t position) {
+  // Where the keywords are settled, looking at the items changes nothing: the cheaper question
+  // first.
+  if (keywords_settled() && !filter_.passes(line, variables_.search_value)) return;
   Items items;
   items.id = id_.of(variables_.search_token).value_on(line);
   if (is_temporary(items.id)) return;
@@ -47,6 +53,11 @@ void EntityLister::take(std::string_view line, std::int64_t position) {
   const FurtherItem& fourth = variables_.fourth;
   if (fourth.wanted()) items.fourth = fourth_.of(fourth.token).value_on(line);
   if (filter_.passes(line, variables_.search_value)) add(items, position);
+}
+
+bool EntityLister::keywords_settled() const {
+  return id_.settled(variables_.search_token) && name_.settled(variables_.name_token) &&
+         !variables_.third.wanted() && !variables_.fourth.wanted();
 }
 
 void EntityLister::add(const Items& items, std::int64_t position) {

@@ -69,6 +69,8 @@ class EntityLister {
     std::string_view id, name, third, fourth;
   };
 
+  // Whether taking the items would leave the caller's variables as they are.
+  bool keywords_settled() const;
   void add(const Items& items, std::int64_t position);
   bool add_keyed(const Items& items, std::u16string_view id);
   void add_without_keys(const Items& items);

@@ -32,7 +32,8 @@ String find_entity(std::u16string_view file, std::u16string_view token, const It
   if (position) go_to(scan.records, *position);
   const ClosingWord& closing = scan.closing();
   std::string_view record;
-  while (scan.walk.next(record)) {
+  const auto is_unwanted = [&](const char* line) { return item.surely_differs(line); };
+  while (scan.walk.next_but(record, is_unwanted)) {
     if (record.empty()) record = scan.records.next();
     const bool closes = closing.closes(record);
     if (item.matches(closes ? closing.without(record) : record))
@@ -53,7 +54,7 @@ String entity_without_table(std::u16string_view file, std::u16string_view token,
                             std::u16string_view id) {
   Scan scan(file, TypeWord::of_token(token));
   std::string_view record;
-  if (!scan.walk.next(record, CandidateTest(token, id))) return String();
+  if (!scan.walk.next_candidate(record, CandidateTest(token, id))) return String();
   return gathered<TextUpToTable>(scan, record);
 }
 

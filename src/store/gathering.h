@@ -17,11 +17,10 @@
 #include "kwutils/error.h"
 #include "store/closing_word.h"
 #include "store/record_reader.h"
+#include "store/table_words.h"
 
 namespace kw::store {
 
-inline constexpr std::string_view kTableOpener = "TBLE";
-inline constexpr std::string_view kTableCloser = "tble";
 inline constexpr std::string_view kLineEnd = "\r\n";
 
 // The text of one entity. One that stands in a single record is shown where it was read.

@@ -20,15 +20,13 @@ std::string_view Keyword::value_on(std::string_view line) const noexcept {
   return value ? parse::token_at(*value, 1) : std::string_view();
 }
 
-std::string_view Keyword::behind_opening(std::string_view line) const noexcept {
-  if (opening_.empty() || !line.starts_with(opening_)) return {};
-  return line.substr(opening_.size());
-}
-
-bool ItemSearch::matches(std::string_view line) const noexcept {
-  const std::string_view value = keyword_.behind_opening(line);
-  if (value.data() != nullptr && !value_.may_begin(value)) return false;
-  return value_.equals(keyword_.value_on(line));
+ItemSearch::ItemSearch(std::u16string_view keyword, std::u16string_view value_in_apostrophes)
+    : keyword_(keyword), value_(value_in_apostrophes) {
+  const std::string_view opening = keyword_.opening();
+  if (opening.empty() || opening.size() > 8) return;
+  opening_size_ = opening.size();
+  opening_bits_ = load_up_to_8(opening.data(), opening_size_);
+  opening_mask_ = low_bytes(opening_size_);
 }
 
 }  // namespace kw::store

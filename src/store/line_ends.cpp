@@ -4,13 +4,15 @@
 
 namespace kw::store {
 
-LineEnds find_line_ends_plain(const char* data, std::size_t length, std::uint32_t* ends) {
+LineEnds find_line_ends_plain(const char* data, std::size_t length, std::uint32_t* ends,
+                              std::uint32_t* odd_blanks) {
   LineEnds found;
   for (std::size_t at = 0; at < length; ++at) {
     const char byte = data[at];
     if (byte == '\n' || (byte == '\r' && data[at + 1] != '\n'))
-      ends[found.count++] = static_cast<std::uint32_t>(at);
-    if (byte == '\t' || byte == '\xA0') found.odd_blanks = true;
+      ends[found.ends++] = static_cast<std::uint32_t>(at);
+    if (byte == '\t' || byte == '\xA0')
+      odd_blanks[found.odd_blanks++] = static_cast<std::uint32_t>(at);
   }
   return found;
 }

@@ -15,22 +15,28 @@ struct Masks {
   std::uint64_t cr;
   std::uint64_t lf;
   std::uint64_t odd_blanks;
+  std::uint64_t inside = ~std::uint64_t{0};  // the piece
 
   // `next`: the byte behind the 64.
   std::uint64_t ends(char next) const {
     const std::uint64_t before_lf = lf >> 1 | std::uint64_t{next == '\n'} << 63;
-    return lf | (cr & ~before_lf);
+    return (lf | (cr & ~before_lf)) & inside;
+  }
+  // The last bytes of a piece: fewer than 64.
+  Masks cut(std::size_t length) const {
+    const std::uint64_t first = (std::uint64_t{1} << length) - 1;
+    return {cr, lf, odd_blanks & first, first};
   }
 };
 
-// Lines of more than a dozen bytes have at most four ends in 64 bytes: writing four without asking
-// how many there are costs less than a branch that cannot be foreseen.
-inline std::uint32_t* write_ends(std::uint64_t ends, std::size_t base, std::uint32_t* out) {
-  std::uint32_t* const next = out + std::popcount(ends);
+// Writes the offset of each bit. Few lines are so short that three of them end in 64 bytes: writing
+// two without asking how many there are costs less than branches that cannot be foreseen.
+inline std::uint32_t* write_offsets(std::uint64_t bits, std::size_t base, std::uint32_t* out) {
+  std::uint32_t* const next = out + std::popcount(bits);
   do {
-    for (int i = 0; i < 4; ++i, ends &= ends - 1)
-      *out++ = static_cast<std::uint32_t>(base + static_cast<unsigned>(std::countr_zero(ends)));
-  } while (ends != 0);
+    for (int i = 0; i < 2; ++i, bits &= bits - 1)
+      *out++ = static_cast<std::uint32_t>(base + static_cast<unsigned>(std::countr_zero(bits)));
+  } while (bits != 0);
   return next;
 }
 
@@ -68,53 +74,42 @@ __attribute__((target("avx2"))) inline Masks masks_avx2(const char* data) {
   return masks;
 }
 
-// The last bytes of a piece: those of `masks` that lie inside it.
-inline Masks cut(const Masks& masks, std::size_t length) {
-  const std::uint64_t inside = (std::uint64_t{1} << length) - 1;
-  return {masks.cr & inside, masks.lf, masks.odd_blanks & inside};
-}
+// Where the next offsets are written.
+struct Offsets {
+  std::uint32_t* ends;
+  std::uint32_t* odd_blanks;
 
-inline std::uint64_t ends_in_cut(const Masks& masks, std::size_t length) {
-  return masks.ends(0) & ((std::uint64_t{1} << length) - 1);
-}
+  void add(const Masks& masks, char next, std::size_t base) {
+    ends = write_offsets(masks.ends(next), base, ends);
+    if (masks.odd_blanks != 0) odd_blanks = write_offsets(masks.odd_blanks, base, odd_blanks);
+  }
+  LineEnds counts(const std::uint32_t* first_end, const std::uint32_t* first_odd_blank) const {
+    return {static_cast<std::size_t>(ends - first_end),
+            static_cast<std::size_t>(odd_blanks - first_odd_blank)};
+  }
+};
 
 }  // namespace
 
 __attribute__((target("sse2"))) LineEnds find_line_ends_sse2(const char* data, std::size_t length,
-                                                             std::uint32_t* ends) {
-  std::uint32_t* out = ends;
-  std::uint64_t odd_blanks = 0;
+                                                             std::uint32_t* ends,
+                                                             std::uint32_t* odd_blanks) {
+  Offsets out{ends, odd_blanks};
   std::size_t at = 0;
-  for (; at + 64 <= length; at += 64) {
-    const Masks masks = masks_sse2(data + at);
-    out = write_ends(masks.ends(data[at + 64]), at, out);
-    odd_blanks |= masks.odd_blanks;
-  }
-  if (at != length) {
-    const Masks masks = cut(masks_sse2(data + at), length - at);
-    out = write_ends(ends_in_cut(masks, length - at), at, out);
-    odd_blanks |= masks.odd_blanks;
-  }
-  return {static_cast<std::size_t>(out - ends), odd_blanks != 0};
+  for (; at + 64 <= length; at += 64) out.add(masks_sse2(data + at), data[at + 64], at);
+  if (at != length) out.add(masks_sse2(data + at).cut(length - at), 0, at);
+  return out.counts(ends, odd_blanks);
 }
 
 __attribute__((target("avx2,bmi,popcnt"))) LineEnds find_line_ends_avx2(const char* data,
                                                                         std::size_t length,
-                                                                        std::uint32_t* ends) {
-  std::uint32_t* out = ends;
-  std::uint64_t odd_blanks = 0;
+                                                                        std::uint32_t* ends,
+                                                                        std::uint32_t* odd_blanks) {
+  Offsets out{ends, odd_blanks};
   std::size_t at = 0;
-  for (; at + 64 <= length; at += 64) {
-    const Masks masks = masks_avx2(data + at);
-    out = write_ends(masks.ends(data[at + 64]), at, out);
-    odd_blanks |= masks.odd_blanks;
-  }
-  if (at != length) {
-    const Masks masks = cut(masks_avx2(data + at), length - at);
-    out = write_ends(ends_in_cut(masks, length - at), at, out);
-    odd_blanks |= masks.odd_blanks;
-  }
-  return {static_cast<std::size_t>(out - ends), odd_blanks != 0};
+  for (; at + 64 <= length; at += 64) out.add(masks_avx2(data + at), data[at + 64], at);
+  if (at != length) out.add(masks_avx2(data + at).cut(length - at), 0, at);
+  return out.counts(ends, odd_blanks);
 }
 
 }  // namespace kw::store

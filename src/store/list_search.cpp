@@ -15,7 +15,7 @@ namespace {
 
 // Goes on to the next entity, with a turn for the host after each record.
 bool next_entity(Scan& scan, std::string_view& record) {
-  return scan.walk.next(record, [](std::string_view) {
+  return scan.walk.next_candidate(record, [](std::string_view) {
     platform::process_events();
     return true;
   });

@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "base/code_page.h"
-#include "base/find_unit.h"
+#include "base/find_text.h"
 #include "parse/item.h"
 #include "parse/keyword.h"
 #include "parse/line.h"
@@ -60,7 +60,8 @@ const Keyword& LiveVariantKeyword::of(Variant& variable) {
 bool LiveFilter::passes(std::string_view line, const String& variable) {
   if (text_.follow(variable)) follow(text_.text());
   if (text_.text().empty()) return true;
-  return in_page_ && keyword_.value_on(line) == wanted_;
+  if (!in_page_ || (!wanted_.empty() && find_text(line, wanted_) == kNotFound)) return false;
+  return keyword_.value_on(line) == wanted_;
 }
 
 void LiveFilter::follow(std::u16string_view text) {

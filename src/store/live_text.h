@@ -16,11 +16,14 @@ class LiveText {
  public:
   // Whether the variable's text may have changed since the last call; text() is then the new one.
   bool follow(const String& variable) {
-    if (seen_ && variable.get() == address_) return false;
+    if (follows(variable)) return false;
     seen_ = true;
     address_ = variable.get();
     text_ = variable.view();
     return true;
+  }
+  bool follows(const String& variable) const noexcept {
+    return seen_ && variable.get() == address_;
   }
   const std::u16string& text() const noexcept { return text_; }
 
@@ -34,6 +37,8 @@ class LiveText {
 class LiveKeyword {
  public:
   const Keyword& of(String& variable);
+  // Whether of() would find nothing new.
+  bool settled(const String& variable) const noexcept { return text_.follows(variable); }
 
  private:
   LiveText text_;

@@ -1,15 +1,34 @@
 #include "store/record_reader.h"
 
 #include <algorithm>
+#include <cstddef>
+
+#include "base/find_unit.h"
 
 namespace kw::store {
 
-std::string_view RecordReader::with_plain_blanks(std::string_view line) {
+namespace {
+
+bool is_blank(char byte) noexcept { return line_byte(byte) == LineByte::blank; }
+
+std::string_view trim_line(std::string_view line) noexcept {
+  const char* first = line.data();
+  const char* last = first + line.size();
+  while (first != last && is_blank(*first)) ++first;
+  while (first != last && is_blank(last[-1])) --last;
+  return {first, static_cast<std::size_t>(last - first)};
+}
+
+}  // namespace
+
+std::string_view RecordReader::normalized(std::string_view line) {
+  line = trim_line(line);
+  if (!source_.has_odd_blanks()) return line;
+  const std::size_t first = std::min(find_unit(line, '\t'), find_unit(line, '\xA0'));
+  if (first == kNotFound) return line;
   const auto odd = [](char byte) { return byte == '\t' || byte == '\xA0'; };
-  const auto first = std::find_if(line.begin(), line.end(), odd);
-  if (first == line.end()) return line;
   copy_.assign(line);
-  std::replace_if(copy_.begin() + (first - line.begin()), copy_.end(), odd, ' ');
+  std::replace_if(copy_.begin() + static_cast<std::ptrdiff_t>(first), copy_.end(), odd, ' ');
   return copy_;
 }
 

@@ -1,6 +1,7 @@
 // The records of an entity file: its lines without comments and empty ones, blanks trimmed.
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -8,12 +9,46 @@
 #include "platform/files.h"
 #include "store/block_source.h"
 #include "store/comment_keys.h"
+#include "store/word_bits.h"
 
 namespace kw::store {
 
-// Whether the byte is a blank, or shown as one: a tab or a no-break space.
-constexpr bool is_line_blank(char byte) noexcept {
-  return byte == ' ' || byte == '\t' || byte == '\xA0';
+// What a byte means at the beginning of a line. List marks are those that ParseList takes off; a
+// NUL counts as one, because a word may not begin with it where words are numbers.
+enum class LineByte : unsigned char { ordinary, list_mark, blank, comment_mark };
+
+// Whether a record can begin with that.
+constexpr bool begins_record(LineByte byte) noexcept { return byte <= LineByte::list_mark; }
+
+namespace detail {
+
+constexpr std::array<LineByte, 256> line_bytes() {
+  std::array<LineByte, 256> bytes{};
+  for (const unsigned char blank : {' ', '\t', '\xA0'}) bytes[blank] = LineByte::blank;
+  for (const unsigned char mark : {';', '*', '/'}) bytes[mark] = LineByte::comment_mark;
+  for (const unsigned char mark : {',', '\'', '"', '\0'}) bytes[mark] = LineByte::list_mark;
+  return bytes;
+}
+
+inline constexpr std::array<LineByte, 256> kLineBytes = line_bytes();
+
+}  // namespace detail
+
+constexpr LineByte line_byte(char byte) noexcept {
+  return detail::kLineBytes[static_cast<unsigned char>(byte)];
+}
+
+// Whether a line is a record as most are: no comment, eight characters or more, nothing to
+// normalise but a few blanks in front of it. `record` is then that record, else nothing of use.
+// BlockSource::kPadding bytes around the line must be readable. The innermost step of every scan:
+// one branch, for what is nearly always true.
+[[gnu::always_inline]] inline bool is_usual_record(std::string_view line, bool has_odd_blanks,
+                                                   std::string_view& record) noexcept {
+  const std::size_t blanks = leading_blanks(load_8(line.data()));
+  const char* const first = line.data() + blanks;
+  record = {first, line.size() - blanks};
+  return (line.size() >= blanks + 8) & (!has_odd_blanks) & begins_record(line_byte(*first)) &
+         (line.data()[line.size() - 1] != ' ');
 }
 
 class RecordReader {
@@ -35,46 +70,60 @@ class RecordReader {
   // As next(); each comment line that is passed over is first handed to on_comment(line), as it
   // stands in the file, without its end.
   template <class OnComment>
-  std::string_view next(OnComment&& on_comment);
+  std::string_view next(OnComment&& on_comment) {
+    if (at_end()) return {};
+    return record_from(source_.next(), on_comment);
+  }
+
+  // For a walk that looks at the lines itself (see BlockSource::lines()): the record that begins
+  // with the line that was taken last, or that is read behind it.
+  LineCursor& lines() noexcept { return source_.lines(); }
+  std::string_view record_from(std::string_view line) {
+    return record_from(line, [](std::string_view) {});
+  }
 
   std::int64_t position() const noexcept { return source_.position(); }
+  // Of a line that is valid.
+  std::int64_t position_of(std::string_view line) const noexcept {
+    return source_.position_of(line.data());
+  }
   void seek(std::int64_t position) { source_.seek(position); }
 
+  // For a search that looks ahead: the bytes that follow and are in memory, and whether the record
+  // read last, which next() gave, is not what stands in the file.
+  std::string_view buffered() const noexcept { return source_.buffered(); }
+  bool changed_blanks() const noexcept { return source_.has_odd_blanks(); }
+
  private:
-  std::string_view normalized(std::string_view line) {
-    const std::string_view trimmed = trim_line(line);
-    return source_.maybe_odd_blanks() ? with_plain_blanks(trimmed) : trimmed;
+  template <class OnComment>
+  std::string_view record_from(std::string_view line, OnComment&& on_comment) {
+    std::string_view record;
+    if (is_usual_record(line, source_.has_odd_blanks(), record)) return record;
+    return any_record_from(line, on_comment);
   }
-  static std::string_view trim_line(std::string_view line) noexcept;
-  std::string_view with_plain_blanks(std::string_view line);
+  template <class OnComment>
+  std::string_view any_record_from(std::string_view line, OnComment& on_comment);
   template <class OnComment>
   std::string_view pass_comment(std::string_view line, std::string_view record,
                                 OnComment& on_comment);
+  std::string_view normalized(std::string_view line);
 
   BlockSource source_;
   std::string copy_;  // of a record that holds a tab or a no-break space
 };
 
-inline std::string_view RecordReader::trim_line(std::string_view line) noexcept {
-  const char* first = line.data();
-  const char* last = first + line.size();
-  while (first != last && is_line_blank(*first)) ++first;
-  while (first != last && is_line_blank(last[-1])) --last;
-  return {first, static_cast<std::size_t>(last - first)};
-}
-
 template <class OnComment>
-std::string_view RecordReader::next(OnComment&& on_comment) {
-  std::string_view record;
-  while (!at_end()) {
-    const std::string_view line = source_.next();
-    record = normalized(line);
-    if (record.empty()) continue;
-    if (!may_begin_comment(record.front()) || comment_kind(record) == CommentKind::none)
-      return record;
-    record = pass_comment(line, record, on_comment);
+[[gnu::noinline]] std::string_view RecordReader::any_record_from(std::string_view line,
+                                                                 OnComment& on_comment) {
+  for (;;) {
+    std::string_view record = normalized(line);
+    if (!record.empty()) {
+      if (comment_kind(record) == CommentKind::none) return record;
+      record = pass_comment(line, record, on_comment);
+    }
+    if (at_end()) return record;
+    line = source_.next();
   }
-  return record;
 }
 
 // Passes over the comment that begins with `line`. Gives the last line of it.

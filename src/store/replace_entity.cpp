@@ -2,6 +2,7 @@
 
 #include "base/case_map.h"
 #include "base/code_page.h"
+#include "store/key_lookahead.h"
 #include "store/record_word.h"
 
 namespace kw::store {
@@ -52,9 +53,10 @@ void replace_entity(std::u16string_view file, const TypeWord& type, const Search
                     const WriteEntityLine& new_entity) {
   Rewrite to(file);
   Replacing replacing(to, type, new_entity);
+  KeyLookahead lookahead(key);
   while (!to.at_end()) {
     const std::string_view record = to.next();
-    replacing.take(record, key.in(record));
+    replacing.take(record, lookahead.in(record, to.old_records()));
   }
   replacing.pay();
   to.finish();

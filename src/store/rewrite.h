@@ -41,6 +41,9 @@ class Rewrite {
   // is written would come back to be written again.
   void refuse_temporary(std::u16string_view file) const;
 
+  // The reader of the old content; only where at_end() is false.
+  const RecordReader& old_records() const noexcept { return *old_records_; }
+
   // Writes as it is.
   void write(std::string_view bytes) {
     if (bytes.size() > kStaged - staged_.size()) return write_through(bytes);

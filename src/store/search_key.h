@@ -16,6 +16,12 @@ class SearchKey {
   // empty one.
   bool in(std::string_view record) const noexcept;
 
+  // The key without the blanks around it; every record with the key holds it. Empty when that says
+  // nothing.
+  std::string_view core() const noexcept { return core_; }
+  // Whether a record may hold it at all.
+  bool possible() const noexcept { return in_page_; }
+
  private:
   // Blanks are the most frequent characters of all, so those around the key are looked at last.
   std::string core_;

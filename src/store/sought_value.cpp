@@ -4,7 +4,6 @@
 
 #include "base/case_map.h"
 #include "base/code_page.h"
-#include "store/word_bits.h"
 
 namespace kw::store {
 
@@ -45,12 +44,6 @@ bool SoughtValue::equals(std::string_view value) const noexcept {
   for (std::size_t at = 0; at < value.size(); ++at)
     if (fold_byte(static_cast<unsigned char>(value[at])) != folded_[at]) return false;
   return true;
-}
-
-bool SoughtValue::may_begin(std::string_view text) const noexcept {
-  // Blanks in front of a value are no part of it.
-  if (text.size() < 8 || text.front() == ' ') return true;
-  return ((load_8(text.data()) ^ common_bits_) & common_mask_) == 0;
 }
 
 }  // namespace kw::store

@@ -5,6 +5,8 @@
 #include <string>
 #include <string_view>
 
+#include "store/word_bits.h"
+
 namespace kw::store {
 
 class SoughtValue {
@@ -14,9 +16,12 @@ class SoughtValue {
 
   bool equals(std::string_view value) const noexcept;
 
-  // A quick look at a quoted value, from behind its opening quote to the end of its line: false
-  // when it is surely another one.
-  bool may_begin(std::string_view text) const noexcept;
+  // A quick look at what stands behind the opening quote of a value, where 8 bytes can be read, be
+  // they the value's or not: false when it is surely another value.
+  bool may_begin(const char* text) const noexcept {
+    // Blanks in front of a value are no part of it.
+    return (((load_8(text) ^ common_bits_) & common_mask_) == 0) | (*text == ' ');
+  }
 
  private:
   bool exists_ = false;

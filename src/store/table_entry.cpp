@@ -25,7 +25,7 @@ template <class OnRow>
 bool read_rows(const TableQuery& query, OnRow&& on_row) {
   Scan scan(query.file, TypeWord::of_token(query.token));
   std::string_view record;
-  if (!scan.walk.next(record, CandidateTest(query.token, query.id))) return false;
+  if (!scan.walk.next_candidate(record, CandidateTest(query.token, query.id))) return false;
   for_each_row(scan.records, record, scan.closing(), on_row);
   return true;
 }

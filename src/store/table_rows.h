@@ -21,12 +21,15 @@ void for_each_row(RecordReader& records, std::string_view record, const ClosingW
                   OnRow&& on_row) {
   if (record.empty()) record = records.next();
   for (bool in_table = false;;) {
-    const std::size_t opener = find_text(record, kTableOpener);
+    const bool plain = !may_hold_table_word(record);
+    const std::size_t opener = plain ? kNotFound : find_text(record, kTableOpener);
     if (opener != kNotFound) {
       in_table = true;
       record.remove_prefix(opener + kTableOpener.size());
     }
-    if (in_table && !record.empty()) {
+    if (in_table && plain) {
+      on_row(record);
+    } else if (in_table && !record.empty()) {
       const std::size_t closer = find_text(record, kTableCloser);
       in_table = closer == kNotFound;
       const std::string_view row = record.substr(0, closer);

@@ -13,6 +13,14 @@
 
 namespace kw::store {
 
+// A word and the blank behind it, in the first eight characters of a record.
+struct TypeBits {
+  bool open(std::uint64_t first_8) const noexcept { return (first_8 & mask) == bits; }
+
+  std::uint64_t mask = 0;
+  std::uint64_t bits = 1;  // no record shows so under a mask of nothing
+};
+
 class TypeWord {
  public:
   // A caller's token, in any case and with blanks around it, opens in upper case.
@@ -26,12 +34,16 @@ class TypeWord {
 
   // Whether the record's first word is this one; if so, `rest` is what follows it.
   bool opens(std::string_view record, std::string_view& rest) const {
-    if (!in_bits_ || record.size() < 8) return opens_slowly(record, rest);
-    if ((load_8(record.data()) ^ bits_) << shift_ != 0)
+    if (!has_bits() || record.size() < 8) return opens_slowly(record, rest);
+    if (!bits_.open(load_8(record.data())))
       return !begins_plainly(record) && opens_slowly(record, rest);
     rest = parse::trim_left(record.substr(size_ + 1));
     return true;
   }
+  // Whether bits() tells of every record of eight characters or more that begins plainly whether
+  // the word opens it.
+  bool has_bits() const noexcept { return bits_.mask != 0; }
+  const TypeBits& bits() const noexcept { return bits_; }
   // Whether this is the word, taken off a record.
   bool is(std::string_view word) const noexcept { return in_page_ && word == bytes_; }
 
@@ -43,11 +55,7 @@ class TypeWord {
   std::string bytes_;
   bool in_page_;
   std::size_t size_;
-  // The word and the blank behind it, where both fit into eight characters and the word is one that
-  // stands before the first blank.
-  bool in_bits_ = false;
-  unsigned shift_ = 0;
-  std::uint64_t bits_ = 0;
+  TypeBits bits_;  // where the word is a short one that stands before the first blank
 };
 
 }  // namespace kw::store

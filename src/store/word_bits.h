@@ -31,11 +31,20 @@ constexpr std::uint64_t low_bytes(std::size_t count) noexcept {
 
 constexpr bool all_ascii(std::uint64_t word) noexcept { return (word & kEveryByte * 0x80) == 0; }
 
-// The place of the first blank, 8 when there is none.
-constexpr std::size_t first_blank(std::uint64_t word) noexcept {
+// The number of the lowest byte with a bit set; 7 when none is, which spares the question.
+constexpr std::size_t first_byte_set(std::uint64_t word) noexcept {
+  return static_cast<std::size_t>(std::countr_zero(word | std::uint64_t{1} << 63)) / 8;
+}
+
+// How many blanks it begins with; 7 when there is nothing else.
+constexpr std::size_t leading_blanks(std::uint64_t word) noexcept {
+  return first_byte_set(word ^ kEveryByte * ' ');
+}
+
+// The lowest bit set marks the first blank; nothing is set when there is none.
+constexpr std::uint64_t blank_marks(std::uint64_t word) noexcept {
   const std::uint64_t other = word ^ kEveryByte * ' ';
-  const std::uint64_t zeros = (other - kEveryByte) & ~other & kEveryByte * 0x80;
-  return static_cast<std::size_t>(std::countr_zero(zeros)) / 8;  // the lowest hit is a true one
+  return (other - kEveryByte) & ~other & kEveryByte * 0x80;
 }
 
 // Every byte in lower case; all of them must be ASCII.
