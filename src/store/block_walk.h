@@ -135,9 +135,9 @@ bool BlockWalk::skim(std::string_view& rest, IsUnwanted& is_unwanted) {
         continue;
       }
       const RecordBits bits(record);
-      const bool opens = type.open(bits.first_8) & (!is_unwanted(record.data() + bits.size + 1));
-      const bool long_way = bits.has_unusual_word(record) | (bits.size == header_size);
-      if ((opens | long_way) & (!block.inside())) {
+      const bool opens = all(type.open(bits.first_8), !is_unwanted(record.data() + bits.size + 1));
+      const bool long_way = any(bits.has_unusual_word(record), bits.size == header_size);
+      if (all(any(opens, long_way), !block.inside())) {
         records_.lines() = lines;
         position_ = records_.position_of(line);
         if (opens) {

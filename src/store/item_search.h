@@ -43,7 +43,7 @@ class ItemSearch {
   // not: true when the item stands there and surely has another value.
   bool surely_differs(const char* line) const noexcept {
     const bool opens = (load_8(line) & opening_mask_) == opening_bits_;
-    return opens & (!value_.may_begin(line + opening_size_));
+    return all(opens, !value_.may_begin(line + opening_size_));
   }
 
  private:

@@ -45,7 +45,7 @@ class LineCursor {
     begin_ = last + 1;
     odd_ = odd_offset_ <= end;  // equal only where the odd blanks stand in front of the slice
     if (odd_) pass_odd_blanks(end);
-    last -= (last != first) & (last[-1] == '\r');
+    last -= static_cast<unsigned>(last != first) & static_cast<unsigned>(last[-1] == '\r');
     return {first, static_cast<std::size_t>(last - first)};
   }
   // Whether the line given last holds odd blanks.

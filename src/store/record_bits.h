@@ -25,7 +25,7 @@ struct RecordBits {
   // Whether the first word must be looked at in another way: it is a long one, has letters that are
   // not ASCII, or does not simply end at the first blank.
   bool has_unusual_word(std::string_view record) const noexcept {
-    return (blanks == 0) | !all_ascii(word) | (line_byte(record.front()) == LineByte::list_mark);
+    return any(blanks == 0, !all_ascii(word), line_byte(record.front()) == LineByte::list_mark);
   }
 
   std::uint64_t first_8;

@@ -24,9 +24,12 @@ namespace detail {
 
 constexpr std::array<LineByte, 256> line_bytes() {
   std::array<LineByte, 256> bytes{};
-  for (const unsigned char blank : {' ', '\t', '\xA0'}) bytes[blank] = LineByte::blank;
-  for (const unsigned char mark : {';', '*', '/'}) bytes[mark] = LineByte::comment_mark;
-  for (const unsigned char mark : {',', '\'', '"', '\0'}) bytes[mark] = LineByte::list_mark;
+  for (const char blank : {' ', '\t', '\xA0'})
+    bytes[static_cast<unsigned char>(blank)] = LineByte::blank;
+  for (const char mark : {';', '*', '/'})
+    bytes[static_cast<unsigned char>(mark)] = LineByte::comment_mark;
+  for (const char mark : {',', '\'', '"', '\0'})
+    bytes[static_cast<unsigned char>(mark)] = LineByte::list_mark;
   return bytes;
 }
 
@@ -47,8 +50,8 @@ constexpr LineByte line_byte(char byte) noexcept {
   const std::size_t blanks = leading_blanks(load_8(line.data()));
   const char* const first = line.data() + blanks;
   record = {first, line.size() - blanks};
-  return (line.size() >= blanks + 8) & (!has_odd_blanks) & begins_record(line_byte(*first)) &
-         (line.data()[line.size() - 1] != ' ');
+  return all(line.size() >= blanks + 8, !has_odd_blanks, begins_record(line_byte(*first)),
+             line.data()[line.size() - 1] != ' ');
 }
 
 class RecordReader {

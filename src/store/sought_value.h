@@ -20,7 +20,7 @@ class SoughtValue {
   // they the value's or not: false when it is surely another value.
   bool may_begin(const char* text) const noexcept {
     // Blanks in front of a value are no part of it.
-    return (((load_8(text) ^ common_bits_) & common_mask_) == 0) | (*text == ' ');
+    return any(((load_8(text) ^ common_bits_) & common_mask_) == 0, *text == ' ');
   }
 
  private:

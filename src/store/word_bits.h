@@ -8,6 +8,17 @@
 
 namespace kw::store {
 
+// Whether all, or any, of the conditions hold. All of them are looked at: what cannot be foreseen
+// is better added up than branched on.
+template <class... Condition>
+constexpr bool all(Condition... conditions) noexcept {
+  return (static_cast<unsigned>(conditions) & ...) != 0;
+}
+template <class... Condition>
+constexpr bool any(Condition... conditions) noexcept {
+  return (static_cast<unsigned>(conditions) | ...) != 0;
+}
+
 inline std::uint64_t load_8(const char* bytes) noexcept {
   std::uint64_t word;
   std::memcpy(&word, bytes, sizeof word);
