@@ -3,7 +3,6 @@
 
 #include <filesystem>
 #include <map>
-#include <memory>
 #include <string>
 #include <vector>
 
@@ -12,24 +11,38 @@
 
 namespace kw::cases {
 
+struct ShownMessage {
+  MessageButtons buttons;
+  std::u16string text;
+};
+
+// "OK" or "AbortRetryIgnore".
+std::string buttons_name(MessageButtons buttons);
+
 class FakeHost {
  public:
-  // `folder` takes the files of the operating system's own directory.
+  // `folder` takes the files of the operating system's own directory. Throws Malformed for a value
+  // that makes no sense.
   FakeHost(const Json& env, const std::filesystem::path& folder);
   FakeHost(const FakeHost&) = delete;
   FakeHost& operator=(const FakeHost&) = delete;
 
   const HostFunctions& functions() const { return functions_; }
-  const std::vector<Json>& messages() const { return messages_; }
+  const std::vector<ShownMessage>& messages() const { return messages_; }
   std::u16string drive() const { return {drive_}; }
 
  private:
+  void take_answers(const Json& env);
+  void take_screen(const Json& size);
+  void take_windows_directory(const Json& files, const std::filesystem::path& folder);
+  void take_module(const Json& env);
+  void take_user(const Json& name);
   void take_drives(const Json& env);
   MessageAnswer show(std::u16string_view text, MessageButtons buttons);
 
   HostFunctions functions_;
-  std::vector<Json> messages_;
-  std::vector<std::string> answers_;
+  std::vector<ShownMessage> messages_;
+  std::vector<MessageAnswer> answers_;
   std::size_t next_answer_ = 0;
   float width_ = 0, height_ = 0;
   char16_t drive_ = u'C';
@@ -38,9 +51,5 @@ class FakeHost {
   std::u16string module_directory_, module_name_, windows_directory_, user_;
   bool user_known_ = false;
 };
-
-// "" when the messages shown are those expected (null: none). Of what the operating system words
-// itself only the beginning is compared.
-std::string messages_difference(const std::vector<Json>& got, const Json& expected);
 
 }  // namespace kw::cases

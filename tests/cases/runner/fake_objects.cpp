@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "base/unicode.h"
+#include "fields.h"
 #include "frame/member_names.h"
 #include "kwutils/error.h"
 
@@ -19,7 +19,8 @@ Names names_of(const std::string& kind) {
   if (kind == "label") return {"Caption"};
   if (kind == "option") return {"Value", "Index"};
   if (kind == "picture") return drawing;
-  if (kind != "form") return {};
+  if (kind.empty()) return {};
+  if (kind != "form") throw Malformed("unknown kind of object: " + kind);
   Names names = drawing;
   names.push_back("WindowState");
   return names;
@@ -90,23 +91,21 @@ class Group final : public FakeObject {
 }  // namespace
 
 Variant variant_of(const Json& value) {
+  if (value.is_null()) return {};
   if (value.is_string()) return Variant(std::u16string_view(units(value)));
   if (value.is_boolean()) return Variant(Boolean(value.get<bool>()));
-  if (value.is_number_integer()) {
-    const auto number = value.get<std::int64_t>();
-    if (number >= INT16_MIN && number <= INT16_MAX)
-      return Variant(static_cast<std::int16_t>(number));
-    return Variant(static_cast<std::int32_t>(number));
-  }
-  if (value.is_number()) return Variant(value.get<double>());
-  return {};
+  if (!value.is_number()) throw Malformed("neither a text nor a number: a list or an object");
+  const double number = value.get<double>();
+  if (!value.is_number_integer() || std::abs(number) > INT32_MAX) return Variant(number);
+  if (number >= INT16_MIN && number <= INT16_MAX) return Variant(static_cast<std::int16_t>(number));
+  return Variant(static_cast<std::int32_t>(number));
 }
 
 Json json_of(const VARIANT& raw) {
   const Variant value = Variant::copy_of(raw);
   switch (value.raw().vt) {
     case kVtBstr:
-      return to_utf8(value.text());
+      return json_text(value.text());
     case kVtBool:
       return static_cast<bool>(value.to_boolean());
     case kVtI2:
@@ -126,6 +125,7 @@ Json json_of(const VARIANT& raw) {
 
 FakeObject::FakeObject(const std::string& kind, const Json& properties)
     : names_(names_of(kind)), default_is_text_(kind == "textbox") {
+  if (!properties.is_object()) throw Malformed("the properties of an object: no JSON object");
   for (const auto& [name, value] : properties.items()) values_[name] = variant_of(value);
 }
 
@@ -190,6 +190,7 @@ HRESULT FakeObject::Invoke(DISPID member, const GUID&, LCID, std::uint16_t flags
 }
 
 Object make_group(const Json& members) {
+  if (!members.is_array()) throw Malformed("the members of a group: no list");
   std::vector<Object> controls;
   for (const Json& member : members)
     controls.push_back(Object::attach(new FakeObject("option", member)));

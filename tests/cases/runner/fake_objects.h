@@ -22,6 +22,7 @@ using Log = std::vector<Json>;
 class FakeObject : public IDispatch {
  public:
   // `kind`: textbox, label, form, picture, option, or "" for an object that answers to nothing.
+  // Throws Malformed for any other.
   FakeObject(const std::string& kind, const Json& properties);
   virtual ~FakeObject();
 
@@ -53,7 +54,7 @@ class FakeObject : public IDispatch {
 // A group of option controls, for a host's "for each".
 Object make_group(const Json& members);
 
-// A JSON value as a caller's variant, and back.
+// A JSON value as a caller's variant, and back. Throws Malformed for a list or an object.
 Variant variant_of(const Json& value);
 Json json_of(const VARIANT& value);
 

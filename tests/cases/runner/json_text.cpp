@@ -1,7 +1,10 @@
 #include "json_text.h"
 
-#include <cctype>
+#include <charconv>
+#include <cstdio>
+#include <set>
 #include <stdexcept>
+#include <vector>
 
 #include "base/unicode.h"
 
@@ -12,8 +15,16 @@ namespace {
 // this private character and four hexadecimal digits; the private character itself likewise.
 constexpr char16_t kMark = 0xF8FF;
 
+constexpr std::string_view kMarkBytes = "\xEF\xA3\xBF";
+
+// Far deeper than any case goes, and far from what the reading of nested values can bear.
+constexpr int kDeepest = 32;
+
+// 0 where there are no four digits; the JSON reader says what is wrong with them.
 unsigned hex_at(std::string_view text, std::size_t at) {
-  return static_cast<unsigned>(std::stoul(std::string(text.substr(at, 4)), nullptr, 16));
+  unsigned number = 0;
+  const char* end = text.data() + at + 4;
+  return std::from_chars(text.data() + at, end, number, 16).ptr == end ? number : 0;
 }
 
 bool is_escape(std::string_view line, std::size_t at) {
@@ -26,6 +37,11 @@ bool is_trail(unsigned unit) { return unit >= 0xDC00 && unit < 0xE000; }
 std::string protect(std::string_view line) {
   std::string out;
   for (std::size_t i = 0; i < line.size();) {
+    if (line.substr(i, kMarkBytes.size()) == kMarkBytes) {
+      out += "\\uf8fff8ff";
+      i += kMarkBytes.size();
+      continue;
+    }
     if (line[i] != '\\' || i + 1 >= line.size()) {
       out += line[i++];
       continue;
@@ -50,9 +66,53 @@ std::string protect(std::string_view line) {
   return out;
 }
 
+// Refuses what the JSON reader would take: a name that occurs twice in an object, of which only the
+// last would count, and nesting without end.
+class Strictness {
+ public:
+  bool operator()(int depth, Json::parse_event_t event, const Json& parsed) {
+    if (depth > kDeepest) throw std::runtime_error("nested too deeply");
+    if (event == Json::parse_event_t::object_start) names_.emplace_back();
+    if (event == Json::parse_event_t::object_end) names_.pop_back();
+    if (event == Json::parse_event_t::key &&
+        !names_.back().insert(parsed.get_ref<const std::string&>()).second)
+      throw std::runtime_error("the name " + parsed.dump() + " occurs twice in one object");
+    return true;
+  }
+
+ private:
+  std::vector<std::set<std::string>> names_;  // of the objects around the place of reading
+};
+
+bool is_lone(std::u16string_view text, std::size_t at) {
+  const bool before = at > 0 && is_lead(text[at - 1]);
+  const bool behind = at + 1 < text.size() && is_trail(text[at + 1]);
+  return (is_lead(text[at]) && !behind) || (is_trail(text[at]) && !before);
+}
+
 }  // namespace
 
-Json parse_line(std::string_view line) { return Json::parse(protect(line)); }
+Json parse_line(std::string_view line) {
+  Strictness strictness;
+  return Json::parse(protect(line), [&](int depth, Json::parse_event_t event, Json& parsed) {
+    return strictness(depth, event, parsed);
+  });
+}
+
+Json json_text(std::u16string_view text) {
+  std::u16string marked;
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    if (text[i] != kMark && !is_lone(text, i)) {
+      marked += text[i];
+      continue;
+    }
+    char digits[8];
+    std::snprintf(digits, sizeof digits, "%04x", static_cast<unsigned>(text[i]));
+    marked += kMark;
+    marked.append(digits, digits + 4);
+  }
+  return to_utf8(marked);
+}
 
 std::u16string units(const Json& text) {
   const std::u16string raw = from_utf8(text.get_ref<const std::string&>());
@@ -97,6 +157,10 @@ std::string shown_bytes(std::string_view text) {
   std::u16string wide;
   for (const char c : text) wide += static_cast<char16_t>(static_cast<unsigned char>(c));
   return shown(wide);
+}
+
+std::string shown_json(const Json& value) {
+  return value.is_string() ? shown(units(value)) : value.dump();
 }
 
 }  // namespace kw::cases

@@ -12,23 +12,39 @@
 
 namespace kw::cases {
 
-Library::Library(std::string path) : path_(std::move(path)) {
-  void* door = nullptr;
-  check_status(factory("clsParse")->QueryInterface(kIidHostDoor, &door));
-  door_ = static_cast<IHostDoor*>(door);
+namespace {
+
+// The interface of this kind; the object itself is given up.
+template <class T>
+T* exchanged(IUnknown* object, const GUID& iid) {
+  void* other = nullptr;
+  const HRESULT answer = object->QueryInterface(iid, &other);
+  object->Release();
+  check_status(answer);
+  return static_cast<T*>(other);
 }
 
-IUnknown* Library::factory(const std::string& class_name) const {
+}  // namespace
+
+Library::Library(std::string path) : path_(std::move(path)) {
+  IClassFactory& any = factory("clsParse");
+  any.AddRef();
+  door_ = exchanged<IHostDoor>(&any, kIidHostDoor);
+}
+
+IClassFactory& Library::factory(const std::string& class_name) const {
+  IClassFactory*& kept = factories_[class_name];
+  if (kept != nullptr) return *kept;
   const frame::ClassTable* table = server::find_class(from_utf8(class_name));
   if (table == nullptr) throw Error(ErrorNumber::cannot_create_object, class_name);
-  return platform::load_class_factory(path_, table->description().class_id);
+  IUnknown* found = platform::load_class_factory(path_, table->description().class_id);
+  kept = exchanged<IClassFactory>(found, kIidClassFactory);
+  return *kept;
 }
 
 Object Library::create(const std::string& class_name) const {
-  void* maker = nullptr;
-  check_status(factory(class_name)->QueryInterface(kIidClassFactory, &maker));
   void* object = nullptr;
-  check_status(static_cast<IClassFactory*>(maker)->CreateInstance(nullptr, kIidDispatch, &object));
+  check_status(factory(class_name).CreateInstance(nullptr, kIidDispatch, &object));
   return Object::attach(static_cast<IDispatch*>(object));
 }
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <map>
 #include <string>
 
 #include "kwutils/host.h"
@@ -23,9 +24,10 @@ class Library {
   void close_file(std::int16_t number) const;
 
  private:
-  IUnknown* factory(const std::string& class_name) const;
+  IClassFactory& factory(const std::string& class_name) const;
 
   std::string path_;
+  mutable std::map<std::string, IClassFactory*> factories_;  // kept to the end of the program
   IHostDoor* door_;
 };
 

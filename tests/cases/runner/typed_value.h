@@ -1,12 +1,12 @@
-// A typed value of a case as the caller's variable: how it goes into a call, and what it holds
-// afterwards.
+// Typed values of a case as variants.
 #pragma once
 
+#include <cstdint>
 #include <functional>
 #include <string>
 
-#include "json_text.h"
-#include "kwutils/collection.h"
+#include "fields.h"
+#include "kwutils/array.h"
 #include "kwutils/variant.h"
 
 namespace kw::cases {
@@ -14,25 +14,39 @@ namespace kw::cases {
 // Makes an empty collection of the library under test.
 using MakeCollection = std::function<Object()>;
 
-class CallerVariable {
- public:
-  // Throws std::runtime_error for a typed value that makes no sense.
-  CallerVariable(const Json& typed, const MakeCollection& make_collection);
+// Throws Malformed for a typed value that makes no sense, a number that its kind cannot hold for
+// example. An object is a FakeObject.
+Variant value_of(const Json& typed, const MakeCollection& make_collection);
 
-  // What the caller sends: the value, or a reference to the variable.
-  VARIANT argument();
-  // What differs from the expected typed value; "" when nothing does.
-  std::string difference(const Json& expected) const;
+// Throws Malformed for a value that nothing could ever be compared with: a plain one (text, number,
+// true, false, null) or a typed one.
+void check_expected(const Json& value);
+// The same for the `items` of a collection.
+void check_items(const Json& items);
 
- private:
-  Variant value_;  // the variable
-  Object held_;    // a second reference to a collection or object passed in
-  bool by_reference_ = false;
-  bool as_variant_ = false;
-};
+double number_of(const Json& value);
+template <class T>
+T element_of(const Json& value) {
+  if constexpr (std::is_same_v<T, String>)
+    return String(std::u16string_view(text_of(value, "element")));
+  else if constexpr (std::is_integral_v<T>)
+    return whole_number<T>(value, "element");
+  else
+    return static_cast<T>(number_of(value));
+}
+template <>
+float element_of<float>(const Json& value);
 
-// What differs between a value and a plain or typed expectation; "" when nothing does.
-std::string value_difference(const VARIANT& got, const Json& expected);
-std::string described(const VARIANT& value);
+// Calls `visit` with a value of the element type that an array's `of` names.
+template <class Visit>
+auto with_element_type(const Json& typed, Visit visit) {
+  const std::string of = text_field(typed, "of");
+  if (of == "str") return visit(String());
+  if (of == "i2") return visit(std::int16_t{});
+  if (of == "i4") return visit(std::int32_t{});
+  if (of == "r4") return visit(float{});
+  if (of == "r8") return visit(double{});
+  throw Malformed("unknown array element: " + of);
+}
 
 }  // namespace kw::cases

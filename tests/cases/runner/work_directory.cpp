@@ -6,12 +6,27 @@
 #include <iterator>
 #include <random>
 
+#include "base/unicode.h"
+#include "fields.h"
+
 namespace kw::cases {
 namespace {
 
 namespace fs = std::filesystem;
 
-std::u8string name_of(const std::string& utf8) { return {utf8.begin(), utf8.end()}; }
+// A file's name in UTF-8, with "/" between folders.
+std::string plain_name(const Json& name) {
+  std::string result = to_utf8(text_of(name, "file name"));
+  std::replace(result.begin(), result.end(), '\\', '/');
+  return result;
+}
+
+bool leads_inside(const fs::path& path) {
+  if (path.empty() || path.is_absolute() || path.has_root_path()) return false;
+  return std::none_of(path.begin(), path.end(), [](const fs::path& part) {
+    return part.empty() || part == ".." || part == ".";
+  });
+}
 
 // Where all work directories of this process lie; removed when it ends. A file system in memory
 // where there is one, for cases flush to the disk what they write.
@@ -50,6 +65,25 @@ std::string content_of(const fs::path& path) {
 
 }  // namespace
 
+fs::path inner_path(const fs::path& folder, const std::string& name) {
+  const fs::path path(std::u8string(name.begin(), name.end()));
+  // A colon stands behind a drive's letter, be it one of this system or not.
+  const bool good =
+      leads_inside(path) && name.find_first_of(std::string_view(":\0", 2)) == name.npos;
+  if (!good) throw Malformed("file '" + name + "': the name leads out of the directory");
+  return folder / path;
+}
+
+void write_files(const fs::path& folder, const Json& files) {
+  for (const auto& [name, content] : files_of(files)) {
+    const fs::path path = inner_path(folder, name);
+    fs::create_directories(path.parent_path());
+    std::ofstream output(path, std::ios::binary);
+    output.write(content.data(), static_cast<std::streamsize>(content.size()));
+    if (!output.flush()) throw Malformed("file '" + name + "' cannot be written");
+  }
+}
+
 WorkDirectory::WorkDirectory() : before_(fs::current_path()) {
   static std::atomic<unsigned> next{0};
   path_ = scratch_root() / std::to_string(next++);
@@ -61,20 +95,13 @@ WorkDirectory::~WorkDirectory() {
   std::error_code ignored;
   fs::current_path(before_, ignored);
   fs::remove_all(path_, ignored);
+  fs::remove_all(system_path(), ignored);
 }
 
-void WorkDirectory::write(const Json& files) const {
-  for (const auto& [name, content] : files.items()) {
-    const fs::path path = path_ / name_of(name);
-    fs::create_directories(path.parent_path());
-    const std::string text = bytes(content);
-    std::ofstream(path, std::ios::binary)
-        .write(text.data(), static_cast<std::streamsize>(text.size()));
-  }
-}
+fs::path WorkDirectory::system_path() const { return fs::path(path_) += "-system"; }
 
 void WorkDirectory::make_directories(const Json& names) const {
-  for (const Json& name : names) fs::create_directories(path_ / name_of(name.get<std::string>()));
+  for (const Json& name : names) fs::create_directories(inner_path(path_, plain_name(name)));
 }
 
 Files WorkDirectory::files() const {
@@ -90,9 +117,10 @@ Files WorkDirectory::files() const {
 Files files_of(const Json& files) {
   Files result;
   for (const auto& [name, content] : files.items()) {
-    std::string generic = name;
-    std::replace(generic.begin(), generic.end(), '\\', '/');
-    result[generic] = bytes(content);
+    const std::string plain = plain_name(name);
+    inner_path({}, plain);
+    if (!content.is_string()) throw Malformed("file " + plain + ": the content is no text");
+    result[plain] = bytes(content);
   }
   return result;
 }

@@ -12,6 +12,13 @@ namespace kw::cases {
 // Name -> content, names with "/" between folders.
 using Files = std::map<std::string, std::string>;
 
+// The file of this name in a folder. Throws Malformed for a name that leads out of the folder, or
+// to none. "/" and "\\" both separate folders.
+std::filesystem::path inner_path(const std::filesystem::path& folder, const std::string& name);
+
+// Writes files (name -> content) into a folder. Throws Malformed for one that cannot be written.
+void write_files(const std::filesystem::path& folder, const Json& files);
+
 // The process's current directory while it lives; removed with everything in it afterwards.
 class WorkDirectory {
  public:
@@ -21,7 +28,8 @@ class WorkDirectory {
   ~WorkDirectory();
 
   const std::filesystem::path& path() const { return path_; }
-  void write(const Json& files) const;
+  // Where a case's own "directory of the operating system" may be made; removed likewise.
+  std::filesystem::path system_path() const;
   void make_directories(const Json& names) const;
   Files files() const;
 
