@@ -61,6 +61,14 @@ Report report_on_text(const std::string& content, const std::string& filter = ""
   return report_on(file.path(), filter);
 }
 
+// Braces around one JSON value are a list of it, or the value itself, as the compiler likes.
+template <class... Values>
+Json list(const Values&... values) {
+  Json result = Json::array();
+  (result.push_back(Json(values)), ...);
+  return result;
+}
+
 Json text(const std::string& value, bool reference = false) {
   return {{"t", "str"}, {"v", value}, {"ref", reference}};
 }
@@ -70,8 +78,8 @@ Json good_case() {
   return {{"id", "good"},
           {"class", "clsParse"},
           {"method", "ParseRecord"},
-          {"args", {text("a\r\nb\r\n", true)}},
-          {"expect", {{"result", "a"}, {"args_after", {text("b\r\n")}}, {"error", nullptr}}}};
+          {"args", list(text("a\r\nb\r\n", true))},
+          {"expect", {{"result", "a"}, {"args_after", list(text("b\r\n"))}, {"error", nullptr}}}};
 }
 
 Json changed(const std::string& pointer, const Json& value) {
@@ -99,7 +107,7 @@ Json object_case(const Json& expected) {
   Json one = changed("/class", "clsDataEdtUtils");
   one["method"] = "FocusMe";
   one["args"] = {{{"t", "object"}, {"kind", "form"}, {"props", {{"Left", 5}}}, {"ref", true}}};
-  one["expect"] = {{"args_after", {expected}}};
+  one["expect"] = {{"args_after", list(expected)}};
   return one;
 }
 
@@ -162,7 +170,7 @@ TEST(Runner, ReadsALastLineWithoutAnEnd) {
   EXPECT_EQ(report_on_text(good_case().dump()).text, "1 passed, 0 failed, 0 skipped\n");
 }
 TEST(Runner, RunsOnlyWhatTheFilterFinds) {
-  const std::string other = changed("/tags", {"other"}).dump();
+  const std::string other = changed("/tags", list("other")).dump();
   EXPECT_EQ(report_on_text(good_case().dump() + "\n" + other + "\n", "other").last_line,
             "1 passed, 0 failed, 0 skipped\n");
 }
@@ -239,15 +247,15 @@ TEST(Runner, RefusesOneResultForARepeatedCall) {
   expect_malformed(changed("/repeat", 1), "the result of a repeated call is a list");
 }
 TEST(Runner, RefusesAListOfResultsForOneCall) {
-  expect_malformed(changed("/expect/result", {"a"}), "a list of results needs 'repeat'");
+  expect_malformed(changed("/expect/result", list("a")), "a list of results needs 'repeat'");
 }
 TEST(Runner, ComparesEveryRepeatedResult) {
   Json one = changed("/repeat", 2);
-  one["expect"] = {{"result", {"a", "b"}}, {"args_after", {text("")}}};
+  one["expect"] = {{"result", {"a", "b"}}, {"args_after", list(text(""))}};
   expect_passed(one);
   one["expect"]["result"] = {"z", "b"};
   expect_failed(one, "result: call 1: expected \"z\", got \"a\"");
-  one["expect"]["result"] = {"a"};
+  one["expect"]["result"] = list("a");
   expect_failed(one, "result: expected 1 results, got 2");
 }
 TEST(Runner, NamesASetupCallThatFails) {
@@ -255,8 +263,8 @@ TEST(Runner, NamesASetupCallThatFails) {
                    "setup call ParseNone: error 438");
 }
 TEST(Runner, MakesSetupCallsOnTheSameObject) {
-  expect_passed(
-      changed("/setup", Json::array({{{"method", "ParseRecord"}, {"args", {text("q", true)}}}})));
+  expect_passed(changed(
+      "/setup", Json::array({{{"method", "ParseRecord"}, {"args", list(text("q", true))}}})));
 }
 TEST(Runner, RefusesAnUnknownModeOfOpening) {
   Json one = changed("/files", {{"a.txt", "x"}});
@@ -415,33 +423,34 @@ TEST(Runner, ComparesBothPropertiesAndLog) {
 const Json kHeld = {item("first", "same"), item("SECOND", "same")};
 
 TEST(Runner, ComparesItemsKeysAndHeldItems) {
-  expect_passed(collection_case({{"t", "coll"}, {"items", {item(nullptr, "a")}}, {"held", kHeld}}));
+  expect_passed(
+      collection_case({{"t", "coll"}, {"items", list(item(nullptr, "a"))}, {"held", kHeld}}));
 }
 TEST(Runner, ComparesHeldItemsWhereverTheVariableRefersTo) {
   expect_failed(
       collection_case(
-          {{"t", "coll"}, {"items", {item(nullptr, "a")}}, {"held", {item("first", "z")}}}),
+          {{"t", "coll"}, {"items", list(item(nullptr, "a"))}, {"held", list(item("first", "z"))}}),
       "argument 3: held collection: expected 1 items, got 2");
 }
 TEST(Runner, ReportsAnotherItem) {
-  expect_failed(collection_case({{"t", "coll"}, {"items", {item(nullptr, "b")}}}),
+  expect_failed(collection_case({{"t", "coll"}, {"items", list(item(nullptr, "b"))}}),
                 "argument 3: item 1: expected \"b\", got \"a\"");
 }
 TEST(Runner, ReportsAKeyThatIsNotThere) {
-  expect_failed(collection_case({{"t", "coll"}, {"items", {item("k", "a")}}}),
+  expect_failed(collection_case({{"t", "coll"}, {"items", list(item("k", "a"))}}),
                 "argument 3: item 1: no item has the key \"k\"");
 }
 TEST(Runner, TellsItemsOfTheSameTextApartByTheirKeys) {
-  expect_failed(collection_case({{"held", {item("second", "same"), item("first", "same")}}}),
+  expect_failed(collection_case({{"held", list(item("second", "same"), item("first", "same"))}}),
                 "argument 3: held collection: item 1: another item has the key \"second\"");
 }
 TEST(Runner, LeavesACollectionAsItWas) {
-  Json one = collection_case({{"held", {item("first", "same"), item("second", "other")}}});
+  Json one = collection_case({{"held", list(item("first", "same"), item("second", "other"))}});
   one["expect"]["alt"] = Json::array({{{"args_after", {nullptr, nullptr, {{"held", kHeld}}}}}});
   expect_passed(one);
 }
 TEST(Runner, RefusesAnUnknownItem) {
-  expect_malformed(collection_case({{"held", {item("first", {{"t", "str"}})}}}),
+  expect_malformed(collection_case({{"held", list(item("first", {{"t", "str"}}))}}),
                    "item of a collection: neither a text, a number nor an object");
 }
 
@@ -452,7 +461,7 @@ TEST(Runner, RefusesAFileOutsideTheDirectory) {
     expect_malformed(changed("/files", {{name, ""}}), "file '");
 }
 TEST(Runner, RefusesADirectoryOutsideTheDirectory) {
-  expect_malformed(changed("/env", {{"mkdir", {"../x"}}}), "file '../x': the name leads out");
+  expect_malformed(changed("/env", {{"mkdir", list("../x")}}), "file '../x': the name leads out");
 }
 TEST(Runner, RefusesAnExpectedFileOutsideTheDirectory) {
   expect_malformed(changed("/expect/files_after", {{"../x", ""}}), "file '../x': the name leads");
@@ -490,14 +499,14 @@ TEST(Runner, FailsAMalformedCaseThatItWouldSkip) {
   expect_malformed(one, "expect: unknown field 'errror'");
 }
 TEST(Runner, RefusesAnUnknownAnswer) {
-  expect_malformed(changed("/env", {{"answers", {"cancel"}}}),
+  expect_malformed(changed("/env", {{"answers", list("cancel")}}),
                    "answers: neither abort, retry nor ignore");
 }
 TEST(Runner, RefusesADriveThatIsNoLetter) {
   expect_malformed(changed("/env", {{"drive", ""}}), "drive: \"\" is no letter");
 }
 TEST(Runner, RefusesAScreenWithoutHeight) {
-  expect_malformed(changed("/env", {{"screen", {640}}}), "screen: no width and height");
+  expect_malformed(changed("/env", {{"screen", list(640)}}), "screen: no width and height");
 }
 TEST(Runner, ReportsAnotherDrive) {
   Json one = changed("/env", {{"drive", "D"}});
@@ -512,7 +521,7 @@ Json message_case(const Json& messages) {
   Json one = changed("/class", "clsFileUtil");
   one["method"] = "MakeAbsolute";
   one["args"] = {text("x", true), {{"t", "nothing"}, {"ref", true}, {"variant", true}}};
-  one["env"] = {{"answers", {"abort"}}};
+  one["env"] = {{"answers", list("abort")}};
   one["expect"] = {{"messages", messages}};
   return one;
 }
@@ -522,24 +531,27 @@ Json message(const std::string& buttons, const std::string& words) {
 }
 
 TEST(Runner, ComparesAMessageUpToItsCarriageReturn) {
-  expect_passed(message_case({message("AbortRetryIgnore", "Error in MakeAbsolute:\rother words")}));
+  expect_passed(
+      message_case(list(message("AbortRetryIgnore", "Error in MakeAbsolute:\rother words"))));
 }
 TEST(Runner, ComparesAllOfAnExpectedMessageWithoutCarriageReturn) {
-  expect_failed(message_case({message("AbortRetryIgnore", "Error in MakeAbsolute:")}),
+  expect_failed(message_case(list(message("AbortRetryIgnore", "Error in MakeAbsolute:"))),
                 "message 1: expected AbortRetryIgnore \"Error in MakeAbsolute:\"");
 }
 TEST(Runner, ComparesTheButtonsOfAMessage) {
-  expect_failed(message_case({message("OK", "Error in MakeAbsolute:\r")}),
+  expect_failed(message_case(list(message("OK", "Error in MakeAbsolute:\r"))),
                 "message 1: expected OK");
 }
 TEST(Runner, ReportsAMessageThatIsNotExpected) {
   expect_failed(message_case(nullptr), "expected 0 messages, got 1");
 }
 TEST(Runner, ReportsAMessageThatDoesNotCome) {
-  expect_failed(changed("/expect/messages", {message("OK", "x")}), "expected 1 messages, got 0");
+  expect_failed(changed("/expect/messages", list(message("OK", "x"))),
+                "expected 1 messages, got 0");
 }
 TEST(Runner, RefusesUnknownButtons) {
-  expect_malformed(changed("/expect/messages", {message("YesNo", "x")}), "unknown buttons: YesNo");
+  expect_malformed(changed("/expect/messages", list(message("YesNo", "x"))),
+                   "unknown buttons: YesNo");
 }
 TEST(Runner, RefusesAMessageWithoutText) {
   expect_malformed(changed("/expect/messages", Json::array({{{"buttons", "OK"}}})),
