@@ -34,6 +34,7 @@ std::string failures_difference(const Aftermath& after, const Json* expected) {
   return "error: " + no_match(expected->dump(), "none");
 }
 
+// A call that failed has no result.
 std::string list_difference(const std::vector<Called>& calls, const Json& expected) {
   if (expected.size() != calls.size())
     return no_match(std::to_string(expected.size()) + " results", std::to_string(calls.size()));

@@ -37,14 +37,15 @@ std::string buttons_name(MessageButtons buttons) {
   return buttons == MessageButtons::ok ? "OK" : "AbortRetryIgnore";
 }
 
-FakeHost::FakeHost(const Json& env, const std::filesystem::path& folder) {
+FakeHost::FakeHost(const Json& env, const std::filesystem::path& folder, bool watches_drive) {
   functions_.context = this;
   take_answers(env);
   if (env.contains("screen")) take_screen(env["screen"]);
   if (env.contains("windir")) take_windows_directory(object_field(env, "windir"), folder);
   take_module(env);
   if (env.contains("user")) take_user(env["user"]);
-  if (env.contains("drive") || env.contains("dirs") || env.contains("failing")) take_drives(env);
+  if (watches_drive || env.contains("drive") || env.contains("dirs") || env.contains("failing"))
+    take_drives(env);
 }
 
 void FakeHost::take_answers(const Json& env) {

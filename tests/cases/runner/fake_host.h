@@ -21,9 +21,10 @@ std::string buttons_name(MessageButtons buttons);
 
 class FakeHost {
  public:
-  // `folder` takes the files of the operating system's own directory. Throws Malformed for a value
-  // that makes no sense.
-  FakeHost(const Json& env, const std::filesystem::path& folder);
+  // `folder` takes the files of the operating system's own directory. `watches_drive`: there are
+  // drives to be changed also where `env` does not name any. Throws Malformed for a value that
+  // makes no sense.
+  FakeHost(const Json& env, const std::filesystem::path& folder, bool watches_drive);
   FakeHost(const FakeHost&) = delete;
   FakeHost& operator=(const FakeHost&) = delete;
 

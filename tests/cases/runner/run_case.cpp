@@ -69,7 +69,7 @@ Outcome run_case(const Library& library, const Json& one) {
   const WorkDirectory directory;
   write_files(directory.path(), object_field(one, "files"));
   directory.make_directories(list_field(env, "mkdir"));
-  const FakeHost host(env, directory.system_path());
+  const FakeHost host(env, directory.system_path(), one["expect"].contains("env_after"));
   const HostInPlace in_place(library, host);
   const MethodCaller caller(library, text_field(one, "class"));
   OpenFiles open_files(library);

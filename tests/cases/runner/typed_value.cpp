@@ -69,6 +69,8 @@ Variant object_of(const Json& typed) {
       Object::attach(new FakeObject(text_field(typed, "kind"), object_field(typed, "props"))));
 }
 
+}  // namespace
+
 void check_typed(const Json& typed) {
   check_fields(
       typed, "typed value",
@@ -76,8 +78,6 @@ void check_typed(const Json& typed) {
   flag_field(typed, "ref");
   flag_field(typed, "variant");
 }
-
-}  // namespace
 
 double number_of(const Json& value) {
   if (value.is_number()) return value.get<double>();

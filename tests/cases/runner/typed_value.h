@@ -18,6 +18,9 @@ using MakeCollection = std::function<Object()>;
 // example. An object is a FakeObject.
 Variant value_of(const Json& typed, const MakeCollection& make_collection);
 
+// Throws Malformed unless this is an object of the fields that typed values have.
+void check_typed(const Json& typed);
+
 // Throws Malformed for a value that nothing could ever be compared with: a plain one (text, number,
 // true, false, null) or a typed one.
 void check_expected(const Json& value);
