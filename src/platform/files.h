@@ -81,7 +81,9 @@ class FileService {
   // folder are no error: nothing is there. Whatever else keeps the question from being answered
   // throws, so that a file that cannot be seen is never taken for a missing one.
   virtual bool exists(std::u16string_view name) = 0;
-  // Whether both names mean one file or directory that is there. False where that cannot be told.
+  // Whether both names mean one file or directory that is there. An impossible name and a missing
+  // drive or folder are no error: nothing is there. Whatever else keeps the question from being
+  // answered throws, so that nobody empties a file that may be the other one.
   virtual bool same_file(std::u16string_view first, std::u16string_view second) {
     return first == second && exists(first);
   }

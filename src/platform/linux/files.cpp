@@ -56,11 +56,15 @@ class SystemFiles : public FileService {
   }
 
  private:
+  // False where nothing has that name.
   static bool look_up(std::u16string_view name, struct stat& status) {
     try {
       const FileName file = native_name(name);
-      return restarted([&] { return system_calls().stat(file.path.c_str(), &status); }) == 0;
-    } catch (const Error&) {
+      if (restarted([&] { return system_calls().stat(file.path.c_str(), &status); }) == 0)
+        return true;
+      throw_file_error(errno, file.given);
+    } catch (const Error& error) {
+      if (!says_missing(error)) throw;
       return false;
     }
   }
