@@ -1,11 +1,13 @@
 // The library as a compiled client meets it: slots, system texts and arrays, statuses.
 #include <gtest/gtest.h>
 
+#include <array>
 #include <thread>
 
 #include "kwutils/array.h"
 #include "kwutils/string.h"
 #include "kwutils/variant.h"
+#include "platform/windows/system.h"
 #include "windows/built_library.h"
 
 namespace kw::testing {
@@ -71,7 +73,7 @@ TEST(SlotClient, GetsErrorsWithSourceAndDescription) {
   const Object store = built_object("clsFileReadWrite");
   BSTR file = SysAllocString(u"no such folder\\a.ent"), token = SysAllocString(u"NODE");
   BSTR id = SysAllocString(u"1"), text = nullptr;
-  EXPECT_EQ(call_slot(store, kFirst, &file, &token, &id, &text), status::kRunTimeError + 76);
+  EXPECT_EQ(call_slot(store, kFirst, &file, &token, id, &text), status::kRunTimeError + 76);
   IErrorInfo* info = nullptr;
   ASSERT_EQ(GetErrorInfo(0, &info), status::kOk);
   BSTR source = nullptr;
@@ -92,14 +94,33 @@ TEST(SlotClient, IsRefusedOnAnotherThread) {
   EXPECT_EQ(answer, status::kWrongThread);
 }
 
-TEST(SlotClient, ManyCallsLeaveNothingBehind) {
-  const Object texts = built_object("clsStringUtil");
-  for (int i = 0; i < 100000; ++i) {
-    BSTR text = SysAllocString(u"abc"), result = nullptr;
-    ASSERT_EQ(call_slot(texts, kFirst + 3, &text, &result), status::kOk);
-    SysFreeString(text);
-    SysFreeString(result);
+// How many blocks of all heaps of the process are in use.
+std::size_t blocks_in_use() {
+  std::array<HANDLE, 64> heaps{};
+  const DWORD count = GetProcessHeaps(static_cast<DWORD>(heaps.size()), heaps.data());
+  std::size_t blocks = 0;
+  for (DWORD i = 0; i < count && i < heaps.size(); ++i) {
+    PROCESS_HEAP_ENTRY entry = {};
+    while (HeapWalk(heaps[i], &entry))
+      if ((entry.wFlags & PROCESS_HEAP_ENTRY_BUSY) != 0) ++blocks;
   }
+  return blocks;
+}
+
+void make_and_use_an_object() {
+  const Object texts = built_object("clsStringUtil");
+  BSTR text = SysAllocString(u"abc"), result = nullptr;
+  ASSERT_EQ(call_slot(texts, kFirst + 3, &text, &result), status::kOk);
+  SysFreeString(text);
+  SysFreeString(result);
+}
+
+TEST(SlotClient, ManyCallsLeaveNothingBehind) {
+  for (int i = 0; i < 1000; ++i) make_and_use_an_object();
+  const std::size_t before = blocks_in_use();
+  ASSERT_GT(before, 0u);
+  for (int i = 0; i < 100000; ++i) make_and_use_an_object();
+  EXPECT_LT(blocks_in_use(), before + 1000);
 }
 
 }  // namespace
