@@ -27,7 +27,8 @@ namespace kw {
 // Strings compare by code unit (compare method 0) or as text, without regard to case (1). A string
 // that was never set is "". Sorting moves strings and copies none.
 //
-// A sort uses working memory of up to one element more per element; without it, it works in place.
+// A sort uses working memory in proportion to the array; where there is none, it works in place.
+// The Index entry points need memory for a copy of the values and answer false without it.
 class clsQSort {
  public:
   // --- Entry points: all errors answered by false
