@@ -11,6 +11,7 @@
 
 int main(int argc, char** argv) {
   CLI::App app("Runs conformance cases against a built library");
+  app.allow_windows_style_options(false);  // "/" begins a path here, on every system
   std::string library_path;
   std::string filter;
   std::vector<std::string> paths;
