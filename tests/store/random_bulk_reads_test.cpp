@@ -23,6 +23,7 @@ class RandomBulkReads : public StoreTest {
       const std::string content = make.file();
       const std::string token = make.token();
       files.put(kName, content);
+      files.piece = make.piece();
       compare(make, content, token);
       ASSERT_FALSE(HasFatalFailure()) << token << '|' << ::testing::PrintToString(content);
     });

@@ -13,9 +13,10 @@ class RandomFiles {
  public:
   explicit RandomFiles(reference::Random& random) : random_(random) {}
 
+  // Now and then one of many blocks, more than a reader looks at in one go.
   std::string file() {
     std::string content;
-    const std::size_t blocks = pick(0, 7);
+    const std::size_t blocks = pick(0, 199) == 0 ? 1000 : pick(0, 7);
     for (std::size_t block = 0; block < blocks; ++block) {
       if (pick(0, 3) == 0) {
         for (std::size_t lines = pick(1, 3); lines != 0; --lines) content += any_line();
@@ -28,6 +29,9 @@ class RandomFiles {
       content.resize(content.size() - pick(0, 2) % content.size());
     return content;
   }
+
+  // How many bytes a reader may get at a time; 0: as many as it asks for.
+  std::size_t piece() { return pick(0, 1) == 0 ? 0 : pick(1, 80); }
 
   std::string token() {
     return of(

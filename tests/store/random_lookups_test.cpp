@@ -21,6 +21,7 @@ class RandomLookups : public StoreTest {
       RandomFiles make(random);
       const std::string content = make.file();
       files.put(kName, content);
+      files.piece = make.piece();
       compare(make, content);
       ASSERT_FALSE(HasFatalFailure()) << ::testing::PrintToString(content);
     });

@@ -62,6 +62,7 @@ TEST_F(RandomSearches, List2EntitieswithSearchFollowsItsSteps) {
     RandomFiles make(random);
     const std::string content = make.file();
     files.put(kName, content);
+    files.piece = make.piece();
     choose(make);
     store.List2EntitieswithSearch(kName, text(arguments.token), search_token,
                                   text(arguments.search_value), ids, name_token, names, true, false,
@@ -78,6 +79,7 @@ TEST_F(RandomSearches, List2EntitieswithSearchandSeekFollowsItsSteps) {
     RandomFiles make(random);
     const std::string content = make.file();
     files.put(kName, content);
+    files.piece = make.piece();
     choose(make);
     arguments.fourth_token.reset();
     arguments.seek = true;
@@ -96,6 +98,7 @@ TEST_F(RandomSearches, SubList2EntitieswithSearchFollowsItsSteps) {
     RandomFiles make(random);
     const std::string content = make.file();
     files.put(kName, content);
+    files.piece = make.piece();
     choose(make);
     arguments.third_token.reset();
     arguments.fourth_token.reset();

@@ -21,6 +21,7 @@ class RandomWriters : public StoreTest {
       if (make.pick(0, 19) != 0) old = make.file();
       files.clear();
       if (old) files.put(u"a.ent", *old);
+      files.piece = make.piece();
       compare(make, old);
       ASSERT_FALSE(HasFatalFailure()) << ::testing::PrintToString(old);
       ASSERT_EQ(files.count(), files.exists(u"rows") ? 2u : 1u);

@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
@@ -14,6 +16,35 @@
 #include "reference/keyed_list.h"
 
 namespace kw::store {
+
+// Files in memory that hand out their bytes in small pieces and do not tell their size, so that a
+// reader's buffer is filled and moved again and again.
+class FilesInPieces : public platform::MemoryFiles {
+ public:
+  std::unique_ptr<platform::InputFile> open_input(std::u16string_view name) override {
+    auto file = platform::MemoryFiles::open_input(name);
+    if (piece == 0) return file;
+    return std::make_unique<Input>(std::move(file), piece);
+  }
+
+  std::size_t piece = 0;  // bytes at a time; 0: as many as are asked for
+
+ private:
+  class Input : public platform::InputFile {
+   public:
+    Input(std::unique_ptr<platform::InputFile> file, std::size_t piece)
+        : file_(std::move(file)), piece_(piece) {}
+    std::size_t read(char* buffer, std::size_t size) override {
+      return file_->read(buffer, std::min(size, piece_));
+    }
+    void seek(std::int64_t position) override { file_->seek(position); }
+    std::int64_t size_hint() override { return 1; }
+
+   private:
+    std::unique_ptr<platform::InputFile> file_;
+    std::size_t piece_;
+  };
+};
 
 class StoreTest : public ::testing::Test {
  protected:
@@ -51,7 +82,7 @@ class StoreTest : public ::testing::Test {
     }
   }
 
-  platform::MemoryFiles files;
+  FilesInPieces files;
   platform::ScopedFileService in_use{files};
   clsFileReadWrite store;
 };
