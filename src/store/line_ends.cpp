@@ -1,5 +1,6 @@
 #include "store/line_ends.h"
 
+#include "store/line_blank.h"
 #include "store/processor.h"
 
 namespace kw::store {
@@ -11,8 +12,7 @@ LineEnds find_line_ends_plain(const char* data, std::size_t length, std::uint32_
     const char byte = data[at];
     if (byte == '\n' || (byte == '\r' && data[at + 1] != '\n'))
       ends[found.ends++] = static_cast<std::uint32_t>(at);
-    if (byte == '\t' || byte == '\xA0')
-      odd_blanks[found.odd_blanks++] = static_cast<std::uint32_t>(at);
+    if (is_odd_blank(byte)) odd_blanks[found.odd_blanks++] = static_cast<std::uint32_t>(at);
   }
   return found;
 }

@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "store/comment_keys.h"
-#include "store/record_reader.h"
+#include "store/line_blank.h"
 
 namespace kw::tool {
 namespace {
