@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <cstdint>
 #include <cstring>
+#include <functional>
 #include <numeric>
 #include <string>
 #include <type_traits>
@@ -85,15 +86,26 @@ void floor_long(benchmark::State& state) {
   run_long<T>(state, [](Array<T>& array) { floor_of(array.elements().data(), array.size()); });
 }
 
-// Many arrays of range(0) numbers each.
+// How short arrays are ordered before they are sorted.
+enum Shape : std::int64_t { kShuffled, kSorted, kReversed };
+
+template <class T>
+void put_in_shape(Shape shape, T* first, T* last) {
+  if (shape == kSorted) std::sort(first, last);
+  if (shape == kReversed) std::sort(first, last, std::greater<>());
+}
+
+// Many arrays of range(0) numbers each, of the shape range(1).
 template <class T, class Sort>
 void run_short(benchmark::State& state, Sort sort) {
   constexpr std::size_t kNumbers = 100'000;
   const auto length = static_cast<std::size_t>(state.range(0));
-  const std::vector<T> numbers = random_numbers<T>(kNumbers / length * length);
+  std::vector<T> numbers = random_numbers<T>(kNumbers / length * length);
   std::vector<Array<T>> arrays;
-  for (std::size_t first = 0; first < numbers.size(); first += length)
+  for (std::size_t first = 0; first < numbers.size(); first += length) {
+    put_in_shape(Shape{state.range(1)}, &numbers[first], &numbers[first] + length);
     arrays.push_back(Array<T>::of(1, std::vector<T>(length)));
+  }
   const auto restore = [&] {
     const T* from = numbers.data();
     for (Array<T>& array : arrays) {
@@ -250,7 +262,7 @@ void register_numbers(const std::string& type) {
     at_full_length(run)->Arg(10'000'000);
   for (auto* run : {benchmark::RegisterBenchmark(name("SmallStd_").c_str(), std_short<T>),
                     benchmark::RegisterBenchmark(name("Small_").c_str(), sort_short<T>)})
-    run->Arg(10)->Arg(30)->Arg(100)->Arg(300)->Arg(1000)->UseManualTime();
+    run->ArgsProduct({{10, 30, 100, 300, 1000}, {kShuffled, kSorted, kReversed}})->UseManualTime();
   for (auto* run : {benchmark::RegisterBenchmark(name("Literal_").c_str(), literal_index<T>),
                     benchmark::RegisterBenchmark(name("Index_").c_str(), sort_index<T>)})
     run->Args({1'000'000, 0})

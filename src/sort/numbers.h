@@ -69,8 +69,8 @@ bool sort_many(T* numbers, std::size_t count, Word<T> varying) {
 // they differ, is looked at when there are 64 of them.
 template <class T>
 void sort_in_one_order(T* numbers, std::size_t count, Word<T> varying) {
-  if (count <= kWidestNetwork) return sort_few_numbers(numbers, count);
   if (sort_presorted(numbers, count)) return;
+  if (count <= kWidestNetwork) return sort_few_numbers(numbers, count);
   if (count >= kRadixFrom<T> && sort_many(numbers, count, varying)) return;
   quick_sort(numbers, count);
 }
@@ -89,8 +89,19 @@ void sort_any_numbers(const Bounded<T>& values) {
   sort_in_one_order<kDirection>(values, Word<T>{0});
 }
 
+// Each number comes before the next one: no NaN, no equal ones, nothing to sort. False for most
+// others after a few of them.
+template <Direction kDirection, class T>
+bool in_strict_order(const T* numbers, std::size_t count) {
+  const NumberOrder<kDirection> before;
+  for (std::size_t k = 1; k < count; ++k)
+    if (!before(numbers[k - 1], numbers[k])) return false;
+  return true;
+}
+
 template <Direction kDirection, std::floating_point T>
 void sort_any_numbers(const Bounded<T>& values) {
+  if (in_strict_order<kDirection>(values.data, values.size())) return;
   const NumberSurvey<T> survey = survey_numbers(values.data, values.size());
   if (survey.one_order())
     sort_in_one_order<kDirection>(values, survey.varying);
