@@ -36,3 +36,5 @@ else()
 endif()
 configure_file(${CMAKE_CURRENT_SOURCE_DIR}/kwutils.manifest.in
   ${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/kwUtils.manifest @ONLY)
+configure_file(${CMAKE_CURRENT_SOURCE_DIR}/client.manifest.in
+  ${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/client.manifest @ONLY)
