@@ -16,6 +16,8 @@
 #include <memory>
 #include <string_view>
 
+#include "kwutils/error.h"
+
 namespace kw::platform {
 
 // A file open for reading. Other programs may read, write, rename and delete it meanwhile.
@@ -80,7 +82,7 @@ class FileService {
   // Whether anything, a directory too, has this name. An impossible name and a missing drive or
   // folder are no error: nothing is there. Whatever else keeps the question from being answered
   // throws, so that a file that cannot be seen is never taken for a missing one.
-  virtual bool exists(std::u16string_view name) = 0;
+  bool exists(std::u16string_view name);
   // Whether both names mean one file or directory that is there. An impossible name and a missing
   // drive or folder are no error: nothing is there. Whatever else keeps the question from being
   // answered throws, so that nobody empties a file that may be the other one.
@@ -92,6 +94,10 @@ class FileService {
   // Deletes a file.
   virtual void remove(std::u16string_view name) = 0;
 };
+
+// Whether a service says by that error that nothing has the name: the file, its folder or its drive
+// is missing, or the name is impossible.
+bool says_missing(const Error& error) noexcept;
 
 // The service in use: the operating system's, unless a ScopedFileService stands in for it.
 FileService& files() noexcept;

@@ -120,10 +120,6 @@ std::unique_ptr<ReplacementFile> MemoryFiles::create_replacement(std::u16string_
   return std::make_unique<Replacement>(*this, std::move(from), std::move(to));
 }
 
-bool MemoryFiles::exists(std::u16string_view name) {
-  return files_.count(std::u16string(name)) != 0;
-}
-
 void MemoryFiles::check_attributes(std::u16string_view name) { find(name); }
 
 void MemoryFiles::remove(std::u16string_view name) {

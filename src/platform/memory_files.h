@@ -26,7 +26,6 @@ class MemoryFiles : public FileService {
   std::unique_ptr<OutputFile> create_output(std::u16string_view name) override;
   std::unique_ptr<ReplacementFile> create_replacement(std::u16string_view temporary,
                                                       std::u16string_view target) override;
-  bool exists(std::u16string_view name) override;
   void check_attributes(std::u16string_view name) override;
   void remove(std::u16string_view name) override;
 

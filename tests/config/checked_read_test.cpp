@@ -165,7 +165,6 @@ TEST_F(GetIniAndCheck, CaseOfTheFileNameDoesNotMatter) {
 // A disk that answers every question with the same error.
 class BrokenFiles : public platform::MemoryFiles {
  public:
-  bool exists(std::u16string_view) override { return true; }
   void check_attributes(std::u16string_view name) override {
     throw Error(number, std::string(name.begin(), name.end()));
   }

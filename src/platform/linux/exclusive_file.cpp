@@ -123,7 +123,7 @@ ExclusiveFile::~ExclusiveFile() {
 
 void ExclusiveFile::finish(const struct stat* replaced) {
   buffer_.flush();
-  if (replaced) take_permissions(buffer_.descriptor(), *replaced, name_);
+  if (replaced) take_permissions(buffer_.file(), *replaced, name_);
   buffer_.sync();
   // Closing may report a failed write. It comes before the move; the lock's descriptor stays.
   buffer_.close();

@@ -7,7 +7,7 @@
 // that neither old permissions nor further links to the old file matter.
 #pragma once
 
-#include "platform/linux/write_buffer.h"
+#include "platform/write_buffer.h"
 
 namespace kw::platform {
 

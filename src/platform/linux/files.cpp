@@ -26,16 +26,6 @@ class SystemFiles : public FileService {
     return create_system_replacement(native_name(temporary), native_name(target));
   }
 
-  bool exists(std::u16string_view name) override {
-    try {
-      check_attributes(name);
-      return true;
-    } catch (const Error& error) {
-      if (!says_missing(error)) throw;
-      return false;
-    }
-  }
-
   bool same_file(std::u16string_view first, std::u16string_view second) override {
     struct stat left, right;
     return look_up(first, left) && look_up(second, right) && left.st_dev == right.st_dev &&
@@ -67,11 +57,6 @@ class SystemFiles : public FileService {
       if (!says_missing(error)) throw;
       return false;
     }
-  }
-  static bool says_missing(const Error& error) {
-    return error.number == ErrorNumber::file_not_found ||
-           error.number == ErrorNumber::path_not_found ||
-           error.number == ErrorNumber::bad_file_name_or_number;
   }
 };
 

@@ -6,9 +6,9 @@
 #include <utility>
 
 #include "kwutils/error.h"
+#include "platform/buffered_output.h"
 #include "platform/linux/file_errors.h"
 #include "platform/linux/system_calls.h"
-#include "platform/linux/write_buffer.h"
 
 namespace kw::platform {
 namespace {
@@ -44,28 +44,6 @@ class SystemInput : public InputFile {
   FileName name_;
 };
 
-class SystemOutput : public OutputFile {
- public:
-  SystemOutput(Descriptor file, FileName name) : buffer_(std::move(file), std::move(name)) {}
-
-  ~SystemOutput() override {
-    try {
-      close();
-    } catch (const Error&) {
-      // Who wants to know calls close().
-    }
-  }
-
-  void write(std::string_view bytes) override { buffer_.write(bytes); }
-
-  void close() override {
-    if (buffer_.descriptor()) buffer_.close();
-  }
-
- private:
-  WriteBuffer buffer_;
-};
-
 }  // namespace
 
 std::unique_ptr<InputFile> open_system_input(FileName name) {
@@ -80,7 +58,7 @@ std::unique_ptr<OutputFile> create_system_output(FileName name) {
   Descriptor file = open_descriptor(name.path, O_WRONLY | O_CREAT | O_TRUNC, 0666);
   if (!file && errno == ENOENT) throw Error(ErrorNumber::path_not_found, name.given, ENOENT);
   if (!file) throw_file_error(errno, name.given);
-  return std::make_unique<SystemOutput>(std::move(file), std::move(name));
+  return buffered_output(std::move(file), std::move(name));
 }
 
 }  // namespace kw::platform

@@ -6,7 +6,7 @@
 #pragma once
 
 #include "platform/windows/file_traits.h"
-#include "platform/windows/write_buffer.h"
+#include "platform/write_buffer.h"
 
 namespace kw::platform {
 

@@ -12,12 +12,6 @@
 namespace kw::platform {
 namespace {
 
-bool says_missing(const Error& error) {
-  return error.number == ErrorNumber::file_not_found ||
-         error.number == ErrorNumber::path_not_found ||
-         error.number == ErrorNumber::bad_file_name_or_number;
-}
-
 class SystemFiles : public FileService {
  public:
   std::unique_ptr<InputFile> open_input(std::u16string_view name) override {
@@ -31,16 +25,6 @@ class SystemFiles : public FileService {
   std::unique_ptr<ReplacementFile> create_replacement(std::u16string_view temporary,
                                                       std::u16string_view target) override {
     return create_system_replacement(native_name(temporary), native_name(target));
-  }
-
-  bool exists(std::u16string_view name) override {
-    try {
-      check_attributes(name);
-      return true;
-    } catch (const Error& error) {
-      if (!says_missing(error)) throw;
-      return false;
-    }
   }
 
   bool same_file(std::u16string_view first, std::u16string_view second) override {

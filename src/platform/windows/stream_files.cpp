@@ -4,9 +4,9 @@
 #include <utility>
 
 #include "kwutils/error.h"
+#include "platform/buffered_output.h"
 #include "platform/windows/file_errors.h"
 #include "platform/windows/system.h"
-#include "platform/windows/write_buffer.h"
 
 namespace kw::platform {
 namespace {
@@ -63,28 +63,6 @@ class SystemInput : public InputFile {
   FileName name_;
 };
 
-class SystemOutput : public OutputFile {
- public:
-  SystemOutput(Handle file, FileName name) : buffer_(std::move(file), std::move(name)) {}
-
-  ~SystemOutput() override {
-    try {
-      close();
-    } catch (const Error&) {
-      // Who wants to know calls close().
-    }
-  }
-
-  void write(std::string_view bytes) override { buffer_.write(bytes); }
-
-  void close() override {
-    if (buffer_.file()) buffer_.close();
-  }
-
- private:
-  WriteBuffer buffer_;
-};
-
 }  // namespace
 
 std::unique_ptr<InputFile> open_system_input(FileName name) {
@@ -106,7 +84,7 @@ std::unique_ptr<OutputFile> create_system_output(FileName name) {
                           FILE_ATTRIBUTE_NORMAL, nullptr));
   if (!file) throw_lookup_error(GetLastError(), name);
   if (is_on_disk(file) && !SetEndOfFile(file.get())) throw_file_error(GetLastError(), name.given);
-  return std::make_unique<SystemOutput>(std::move(file), std::move(name));
+  return buffered_output(std::move(file), std::move(name));
 }
 
 }  // namespace kw::platform

@@ -5,14 +5,13 @@
 #include <memory>
 #include <string_view>
 
-#include "platform/windows/file_name.h"
-#include "platform/windows/system.h"
+#include "platform/native_file.h"
 
 namespace kw::platform {
 
 class WriteBuffer {
  public:
-  WriteBuffer(Handle file, FileName name);
+  WriteBuffer(NativeFile file, FileName name);
   void write(std::string_view bytes);
   // Hands everything to the system.
   void flush();
@@ -21,20 +20,20 @@ class WriteBuffer {
   // flush(), and the file is closed.
   void close();
 
-  const Handle& file() const noexcept { return file_; }
+  const NativeFile& file() const noexcept { return file_; }
   // Closes the file without a word about what is still buffered.
   void drop() noexcept { file_.close(); }
 
  private:
   void check() const;
-  [[noreturn]] void fail(DWORD code);
+  [[noreturn]] void fail(SystemCode code);
   void write_through(std::string_view bytes);
 
-  Handle file_;
+  NativeFile file_;
   FileName name_;
   std::unique_ptr<char[]> buffer_;
   std::size_t used_ = 0;
-  DWORD failure_ = 0;
+  SystemCode failure_ = 0;
 };
 
 }  // namespace kw::platform

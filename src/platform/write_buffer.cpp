@@ -1,22 +1,17 @@
-#include "platform/windows/write_buffer.h"
+#include "platform/write_buffer.h"
 
-#include <algorithm>
 #include <cstring>
 #include <utility>
-
-#include "platform/windows/file_errors.h"
 
 namespace kw::platform {
 namespace {
 
 constexpr std::size_t kCapacity = 128 * 1024;
-// As much as one call is given; some systems refuse more on a network.
-constexpr std::size_t kMostAtOnce = 16 * 1024 * 1024;
 
 }  // namespace
 
 // The buffer is not cleared: small files never touch most of it.
-WriteBuffer::WriteBuffer(Handle file, FileName name)
+WriteBuffer::WriteBuffer(NativeFile file, FileName name)
     : file_(std::move(file)), name_(std::move(name)), buffer_(new char[kCapacity]) {}
 
 void WriteBuffer::write(std::string_view bytes) {
@@ -37,29 +32,27 @@ void WriteBuffer::flush() {
 
 void WriteBuffer::sync() {
   flush();
-  if (!FlushFileBuffers(file_.get())) fail(GetLastError());
+  if (const SystemCode code = sync_to_disk(file_)) fail(code);
 }
 
 void WriteBuffer::close() {
   flush();
-  if (const DWORD code = file_.close()) fail(code);
+  if (const SystemCode code = file_.close()) fail(code);
 }
 
 void WriteBuffer::check() const {
   if (failure_ != 0) throw_file_error(failure_, name_.given);
 }
 
-void WriteBuffer::fail(DWORD code) {
+void WriteBuffer::fail(SystemCode code) {
   failure_ = code;
   throw_file_error(code, name_.given);
 }
 
 void WriteBuffer::write_through(std::string_view bytes) {
   while (!bytes.empty()) {
-    DWORD count = 0;
-    const auto size = static_cast<DWORD>(std::min(bytes.size(), kMostAtOnce));
-    if (!WriteFile(file_.get(), bytes.data(), size, &count, nullptr)) fail(GetLastError());
-    if (count == 0) fail(ERROR_WRITE_FAULT);  // it would never end
+    std::size_t count = 0;
+    if (const SystemCode code = write_some(file_, bytes, count)) fail(code);
     bytes.remove_prefix(count);
   }
 }
