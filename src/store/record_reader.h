@@ -51,7 +51,7 @@ constexpr LineByte line_byte(char byte) noexcept {
   const char* const first = line.data() + blanks;
   record = {first, line.size() - blanks};
   return all(line.size() >= blanks + 8, !has_odd_blanks, begins_record(line_byte(*first)),
-             line.data()[line.size() - 1] != ' ');
+             line.data()[static_cast<std::ptrdiff_t>(line.size()) - 1] != ' ');
 }
 
 class RecordReader {
