@@ -11,8 +11,8 @@
 #include <stdexcept>
 #include <vector>
 
-#include "classes.h"
-#include "text.h"
+#include "client/classes.h"
+#include "client/text.h"
 
 namespace {
 

@@ -1,9 +1,9 @@
-#include "failure.h"
+#include "client/failure.h"
 
 #include <stdexcept>
 
-#include "reference.h"
-#include "text.h"
+#include "client/reference.h"
+#include "client/text.h"
 
 void check(HRESULT status) {
   if (SUCCEEDED(status)) return;

@@ -1,12 +1,19 @@
 // A counted reference to an object, given back at the end.
 #pragma once
 
+#include <utility>
+
 template <class Interface>
 class Reference {
  public:
   Reference() = default;
+  // Takes a reference over.
+  explicit Reference(Interface* object) noexcept : object_(object) {}
   Reference(Reference&& other) noexcept : object_(other.object_) { other.object_ = nullptr; }
-  Reference& operator=(Reference&&) = delete;
+  Reference& operator=(Reference&& other) noexcept {
+    std::swap(object_, other.object_);
+    return *this;
+  }
   ~Reference() {
     if (object_ != nullptr) object_->Release();
   }

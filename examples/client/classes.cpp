@@ -1,4 +1,4 @@
-#include "classes.h"
+#include "client/classes.h"
 
 #include <objbase.h>
 

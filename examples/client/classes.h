@@ -3,8 +3,8 @@
 
 #include <windows.h>
 
-#include "failure.h"
-#include "reference.h"
+#include "client/failure.h"
+#include "client/reference.h"
 
 class Classes {
  public:
