@@ -24,6 +24,8 @@ class BlockMask {
   explicit BlockMask(int bytes) noexcept : bits_(static_cast<unsigned>(bytes) & kFirstBytes) {}
 
   bool empty() const noexcept { return bits_ == 0; }
+  // One bit for each byte.
+  unsigned bits() const noexcept { return bits_; }
   std::size_t first() const noexcept {
     return static_cast<std::size_t>(std::countr_zero(bits_)) / sizeof(Char);
   }

@@ -30,6 +30,7 @@
 
 #include "store/record_bits.h"
 #include "store/record_reader.h"
+#include "store/skim.h"
 #include "store/type_word.h"
 
 namespace kw::store {
@@ -82,8 +83,8 @@ class BlockWalk {
     while (!closing.closes(record) && !records_.at_end()) record = records_.next();
   }
   template <class IsUnwanted>
-  bool skim(std::string_view& rest, IsUnwanted& is_unwanted);
-  bool take_unusual(std::string_view line, BlockState& block, std::string_view& rest);
+  bool next_skimmed(std::string_view& rest, const IsUnwanted& is_unwanted);
+  bool take_unusual(std::string_view line, BlockState block, std::string_view& rest);
 
   RecordReader& records_;
   const TypeWord& type_;
@@ -106,7 +107,7 @@ inline bool BlockWalk::open(std::string_view record, std::string_view& rest, boo
 template <class IsUnwanted>
 bool BlockWalk::next_but(std::string_view& rest, IsUnwanted&& is_unwanted) {
   while (!records_.at_end()) {
-    if (!first_ && type_.has_bits()) return skim(rest, is_unwanted);
+    if (!first_ && type_.has_bits()) return next_skimmed(rest, is_unwanted);
     const bool first = first_;
     first_ = false;
     position_ = records_.position();
@@ -115,56 +116,33 @@ bool BlockWalk::next_but(std::string_view& rest, IsUnwanted&& is_unwanted) {
   return false;
 }
 
-// The types, and how many records a block has, cannot be foreseen, so the loop for usual records
-// does not branch on them: a record inside a block and one that opens a block differ in what is
-// selected. Whatever is not usual goes the long way, to the end of its block.
+inline constexpr WordMasks kAnyWord = word_masks(0);
+inline constexpr WordMasks kNoHeader = word_masks(6);
+
 template <class IsUnwanted>
-bool BlockWalk::skim(std::string_view& rest, IsUnwanted& is_unwanted) {
-  const TypeBits type = type_.bits();
-  const std::size_t header_size = header_ == SixLetters::every_record ? 6 : 0;
+bool BlockWalk::next_skimmed(std::string_view& rest, const IsUnwanted& is_unwanted) {
+  const WordMasks& words = header_ == SixLetters::every_record ? kNoHeader : kAnyWord;
   BlockState block;
   while (!records_.at_end()) {
-    LineCursor lines = records_.lines();
-    while (!lines.empty()) {
-      const std::string_view line = lines.next();
-      std::string_view record;
-      if (!is_usual_record(line, lines.odd(), record)) {
-        records_.lines() = lines;
-        if (take_unusual(line, block, rest)) return true;
-        lines = records_.lines();
-        continue;
-      }
-      const RecordBits bits(record);
-      const bool opens = all(type.open(bits.first_8), !is_unwanted(record.data() + bits.size + 1));
-      const bool long_way = any(bits.has_unusual_word(record), bits.size == header_size);
-      if (all(any(opens, long_way), !block.inside())) {
-        records_.lines() = lines;
-        position_ = records_.position_of(line);
-        if (opens) {
-          rest = parse::trim_left(record.substr(bits.size + 1));
-          return true;
-        }
-        if (open(record, rest, false)) return true;
-        lines = records_.lines();
-        continue;
-      }
-      block.take(bits);
+    const SkimStop stop = skim(records_.lines(), block, type_.bits(), words, is_unwanted);
+    if (stop.why == SkimStop::Why::no_more_lines) continue;
+    if (!block.inside()) position_ = records_.position_of(stop.begin);
+    if (stop.why == SkimStop::Why::opening_record) {
+      if (open(stop.record, rest, false)) return true;
+    } else {
+      if (take_unusual(stop.line, block, rest)) return true;
+      block = BlockState();
     }
-    records_.lines() = lines;
   }
   return false;
 }
 
 // Whether the record that begins with that line opens a block of the type. The block that it
 // belongs to, when not, is passed over.
-[[gnu::noinline]] inline bool BlockWalk::take_unusual(std::string_view line, BlockState& block,
+[[gnu::noinline]] inline bool BlockWalk::take_unusual(std::string_view line, BlockState block,
                                                       std::string_view& rest) {
-  if (!block.inside()) {
-    position_ = records_.position_of(line);
-    return open(records_.record_from(line), rest, false);
-  }
+  if (!block.inside()) return open(records_.record_from(line), rest, false);
   foreign_.follow_bits(block.closing(), block.closing_size());
-  block.leave();
   pass_block(records_.record_from(line), foreign_);
   return false;
 }

@@ -39,14 +39,21 @@ class LineCursor {
 
   // The next line, without its end; not when empty.
   std::string_view next() noexcept {
-    const std::uint32_t end = *next_end_++;
     const char* const first = begin_;
-    const char* last = slice_ + end;
-    begin_ = last + 1;
+    return line_between(first, next_end());
+  }
+  // The same for a loop that looks at the line's end itself: its last byte, LF or CR, or the byte
+  // behind it at the end of the file. The line began at begin().
+  const char* next_end() noexcept {
+    const std::uint32_t end = *next_end_++;
     odd_ = odd_offset_ <= end;  // equal only where the odd blanks stand in front of the slice
     if (odd_) pass_odd_blanks(end);
-    last -= static_cast<unsigned>(last != first) & static_cast<unsigned>(last[-1] == '\r');
-    return {first, static_cast<std::size_t>(last - first)};
+    begin_ = slice_ + end + 1;
+    return slice_ + end;
+  }
+  static std::string_view line_between(const char* first, const char* end) noexcept {
+    end -= static_cast<unsigned>(end != first) & static_cast<unsigned>(end[-1] == '\r');
+    return {first, static_cast<std::size_t>(end - first)};
   }
   // Whether the line given last holds odd blanks.
   bool odd() const noexcept { return odd_; }

@@ -29,13 +29,18 @@ struct Masks {
   }
 };
 
+// The lowest bit; any where there is none, which spares the question.
+inline unsigned lowest(std::uint64_t bits) {
+  return static_cast<unsigned>(std::countr_zero(bits | std::uint64_t{1} << 63));
+}
+
 // Writes the offset of each bit. Few lines are so short that three of them end in 64 bytes: writing
 // two without asking how many there are costs less than branches that cannot be foreseen.
 inline std::uint32_t* write_offsets(std::uint64_t bits, std::size_t base, std::uint32_t* out) {
   std::uint32_t* const next = out + std::popcount(bits);
   do {
     for (int i = 0; i < 2; ++i, bits &= bits - 1)
-      *out++ = static_cast<std::uint32_t>(base + static_cast<unsigned>(std::countr_zero(bits)));
+      *out++ = static_cast<std::uint32_t>(base + lowest(bits));
   } while (bits != 0);
   return next;
 }

@@ -13,45 +13,29 @@
 
 namespace kw::store {
 
-// What a byte means at the beginning of a line. List marks are those that ParseList takes off; a
-// NUL counts as one, because a word may not begin with it where words are numbers.
-enum class LineByte : unsigned char { ordinary, list_mark, blank, comment_mark };
-
-// Whether a record can begin with that.
-constexpr bool begins_record(LineByte byte) noexcept { return byte <= LineByte::list_mark; }
-
 namespace detail {
 
-constexpr std::array<LineByte, 256> line_bytes() {
-  std::array<LineByte, 256> bytes{};
-  for (const char blank : {' ', '\t', '\xA0'})
-    bytes[static_cast<unsigned char>(blank)] = LineByte::blank;
-  for (const char mark : {';', '*', '/'})
-    bytes[static_cast<unsigned char>(mark)] = LineByte::comment_mark;
-  for (const char mark : {',', '\'', '"', '\0'})
-    bytes[static_cast<unsigned char>(mark)] = LineByte::list_mark;
+// The bytes with which no usual record begins: blanks, comment marks, what ParseList takes off a
+// word, and NUL, with which no word may begin where words are numbers.
+constexpr std::array<bool, 256> unusual_first_bytes() {
+  std::array<bool, 256> bytes{};
+  for (const char byte : {' ', '\t', '\xA0', ';', '*', '/', ',', '\'', '"', '\0'})
+    bytes[static_cast<unsigned char>(byte)] = true;
   return bytes;
 }
 
-inline constexpr std::array<LineByte, 256> kLineBytes = line_bytes();
+inline constexpr std::array<bool, 256> kUnusualFirstBytes = unusual_first_bytes();
 
 }  // namespace detail
 
-constexpr LineByte line_byte(char byte) noexcept {
-  return detail::kLineBytes[static_cast<unsigned char>(byte)];
-}
-
-// Whether a line is a record as most are: no comment, eight characters or more, nothing to
-// normalise but a few blanks in front of it. `record` is then that record, else nothing of use.
-// BlockSource::kPadding bytes around the line must be readable. The innermost step of every scan:
-// one branch, for what is nearly always true.
-[[gnu::always_inline]] inline bool is_usual_record(std::string_view line, bool has_odd_blanks,
-                                                   std::string_view& record) noexcept {
-  const std::size_t blanks = leading_blanks(load_8(line.data()));
-  const char* const first = line.data() + blanks;
-  record = {first, line.size() - blanks};
-  return all(line.size() >= blanks + 8, !has_odd_blanks, begins_record(line_byte(*first)),
-             line.data()[static_cast<std::ptrdiff_t>(line.size()) - 1] != ' ');
+// Whether a line is a record as most are: no comment, eight characters or more, its first word
+// plain, nothing to normalise but fewer than eight blanks in front of it. `first` is the place
+// behind the blanks, `last` that behind the line.
+[[gnu::always_inline]] inline bool is_usual_record(const char* first, const char* last,
+                                                   std::size_t blanks,
+                                                   bool has_odd_blanks) noexcept {
+  return !has_odd_blanks && blanks < 8 && last - first >= 8 &&
+         !detail::kUnusualFirstBytes[static_cast<unsigned char>(*first)] && last[-1] != ' ';
 }
 
 class RecordReader {
@@ -87,9 +71,7 @@ class RecordReader {
 
   std::int64_t position() const noexcept { return source_.position(); }
   // Of a line that is valid.
-  std::int64_t position_of(std::string_view line) const noexcept {
-    return source_.position_of(line.data());
-  }
+  std::int64_t position_of(const char* line) const noexcept { return source_.position_of(line); }
   void seek(std::int64_t position) { source_.seek(position); }
 
   // For a search that looks ahead: the bytes that follow and are in memory, and whether the record
@@ -100,8 +82,11 @@ class RecordReader {
  private:
   template <class OnComment>
   std::string_view record_from(std::string_view line, OnComment&& on_comment) {
-    std::string_view record;
-    if (is_usual_record(line, source_.has_odd_blanks(), record)) return record;
+    const std::size_t blanks = leading_blanks(load_8(line.data()));
+    const char* const first = line.data() + blanks;
+    const char* const last = line.data() + line.size();
+    if (is_usual_record(first, last, blanks, source_.has_odd_blanks()))
+      return {first, static_cast<std::size_t>(last - first)};
     return any_record_from(line, on_comment);
   }
   template <class OnComment>

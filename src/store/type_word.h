@@ -19,6 +19,7 @@ struct TypeBits {
 
   std::uint64_t mask = 0;
   std::uint64_t bits = 1;  // no record shows so under a mask of nothing
+  std::size_t size_with_blank = 0;
 };
 
 class TypeWord {

@@ -19,6 +19,11 @@ constexpr bool any(Condition... conditions) noexcept {
   return (static_cast<unsigned>(conditions) | ...) != 0;
 }
 
+// Every bit where the condition holds, else none.
+constexpr std::uint64_t all_bits_if(bool condition) noexcept {
+  return 0 - static_cast<std::uint64_t>(condition);
+}
+
 inline std::uint64_t load_8(const char* bytes) noexcept {
   std::uint64_t word;
   std::memcpy(&word, bytes, sizeof word);
