@@ -7,4 +7,7 @@ namespace kw::platform {
 // measurable where the host has set no function.
 void process_events();
 
+// False where process_events() would do nothing: who reads many records may then take them at once.
+bool events_may_wait() noexcept;
+
 }  // namespace kw::platform

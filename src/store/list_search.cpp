@@ -13,8 +13,9 @@ namespace kw::store {
 
 namespace {
 
-// Goes on to the next entity, with a turn for the host after each record.
+// Goes on to the next entity, with a turn for the host after each record where it wants one.
 bool next_entity(Scan& scan, std::string_view& record) {
+  if (!platform::events_may_wait()) return scan.walk.next(record);
   return scan.walk.next_candidate(record, [](std::string_view) {
     platform::process_events();
     return true;

@@ -9,4 +9,6 @@ void process_events() {
   if (host.process_events != nullptr) host.process_events(host.context);
 }
 
+bool events_may_wait() noexcept { return host_functions().process_events != nullptr; }
+
 }  // namespace kw::platform

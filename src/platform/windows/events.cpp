@@ -44,4 +44,6 @@ void process_events() {
   if (worth_asking() && anything_waits()) pump();
 }
 
+bool events_may_wait() noexcept { return true; }
+
 }  // namespace kw::platform
