@@ -45,27 +45,39 @@ void CollectionItems::enter_key(CollectionNode& node) {
   keys_.add(&node);
 }
 
-void CollectionItems::add(CollectionNode::Owner node) { place(std::move(node), {}, {}); }
-
-void CollectionItems::place(CollectionNode::Owner node, const Variant& before,
-                            const Variant& after) {
-  const auto given = [](const Variant& index) { return !index.is_missing() && !index.is_empty(); };
-  if (given(before) && given(after)) throw Error(ErrorNumber::invalid_argument);
-  CollectionNode* next = given(before) ? &indexed(before) : nullptr;
-  CollectionNode* previous = given(after) ? &indexed(after) : nullptr;
+// Enters the node's key, then puts it into the order by insert().
+template <class Insert>
+void CollectionItems::enter(CollectionNode::Owner node, Insert&& insert) {
   if (node->has_key) enter_key(*node);
   try {
-    if (next != nullptr)
-      order_.insert_before(next, node.get());
-    else if (previous != nullptr)
-      order_.insert_after(previous, node.get());
-    else
-      order_.append(node.get());
+    insert();
   } catch (...) {
     if (node->has_key) keys_.remove(node.get());
     throw;
   }
   node.release();
+}
+
+void CollectionItems::add(CollectionNode::Owner node) {
+  CollectionNode* const entry = node.get();
+  enter(std::move(node), [&] { order_.append(entry); });
+}
+
+void CollectionItems::place(CollectionNode::Owner node, const Variant& before,
+                            const Variant& after) {
+  const auto given = [](const Variant& index) { return !index.is_missing() && !index.is_empty(); };
+  if (given(before) && given(after)) throw Error(ErrorNumber::invalid_argument);
+  CollectionNode* const next = given(before) ? &indexed(before) : nullptr;
+  CollectionNode* const previous = given(after) ? &indexed(after) : nullptr;
+  CollectionNode* const entry = node.get();
+  enter(std::move(node), [&] {
+    if (next != nullptr)
+      order_.insert_before(next, entry);
+    else if (previous != nullptr)
+      order_.insert_after(previous, entry);
+    else
+      order_.append(entry);
+  });
 }
 
 void CollectionItems::remove(CollectionNode& node) noexcept {

@@ -46,6 +46,8 @@ class CollectionItems {
  private:
   CollectionNode& indexed(const Variant& index) const;
   void enter_key(CollectionNode& node);
+  template <class Insert>
+  void enter(CollectionNode::Owner node, Insert&& insert);
   void place(CollectionNode::Owner node, const Variant& before, const Variant& after);
 
   ObjectBase* object_ = nullptr;

@@ -14,13 +14,13 @@ void CollectionNode::Delete::operator()(CollectionNode* node) const noexcept {
   ::operator delete(node);
 }
 
-CollectionNode::Owner CollectionNode::make(Variant item) {
+CollectionNode::Owner CollectionNode::make(Variant&& item) {
   auto node = make(std::move(item), {});
   node->has_key = false;
   return node;
 }
 
-CollectionNode::Owner CollectionNode::make(Variant item, std::u16string_view key) {
+CollectionNode::Owner CollectionNode::make(Variant&& item, std::u16string_view key) {
   if (key.size() > std::numeric_limits<std::uint32_t>::max() / 4)
     throw Error(ErrorNumber::out_of_memory);
   void* memory = ::operator new(sizeof(CollectionNode) + key.size() * sizeof(char16_t));

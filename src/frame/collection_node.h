@@ -27,8 +27,8 @@ struct CollectionNode {
   };
   using Owner = std::unique_ptr<CollectionNode, Delete>;
 
-  static Owner make(Variant item);
-  static Owner make(Variant item, std::u16string_view key);
+  static Owner make(Variant&& item);
+  static Owner make(Variant&& item, std::u16string_view key);
 };
 
 }  // namespace kw::frame
