@@ -7,10 +7,10 @@
 
 namespace kw {
 
-// A new object of a registered class: `name` is its programmatic name ("kwUtils.clsParse", any case)
-// or its identifier, with or without braces. The library that serves the class is loaded from where
-// it was registered, into this process, and stays loaded. Error 429 when no class of that name is
-// registered, or its library cannot be loaded; the description says which and why.
+// A new object of a registered class: `name` is its programmatic name ("kwUtils.clsParse", any
+// case) or its identifier, with or without braces. The library that serves the class is loaded from
+// where it was registered, into this process, and stays loaded. Error 429 when no class of that
+// name is registered, or its library cannot be loaded; the description says which and why.
 //
 //   kw::Object parser = kw::create_object(u"kwUtils.clsParse");
 Object create_object(std::u16string_view name);

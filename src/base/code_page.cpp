@@ -39,7 +39,7 @@ signed char least_plain(const CodePage& page) noexcept { return page.is_latin_1(
 bool widen_plain(const char* from, char16_t* to, signed char least) noexcept {
   Bytes bytes;
   std::memcpy(&bytes, from, sizeof bytes);
-  const Words special = reinterpret_cast<Words>(bytes < least);
+  const auto special = reinterpret_cast<Words>(bytes < least);
   if ((special[0] | special[1]) != 0) return false;
   const Units units = __builtin_convertvector(reinterpret_cast<OwnBytes>(bytes), Units);
   std::memcpy(to, &units, sizeof units);

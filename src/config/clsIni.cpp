@@ -16,7 +16,7 @@ constexpr std::size_t kCapacity = 1024;
 
 // The profile functions look for a bare name in the system's directory, callers in the current one.
 std::string completed(std::u16string_view file) {
-  const bool bare = file.find_first_of(u"\\:") == file.npos;
+  const bool bare = file.find_first_of(u"\\:") == std::u16string_view::npos;
   return (bare ? ".\\" : "") + narrow(file);
 }
 

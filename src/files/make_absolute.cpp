@@ -32,7 +32,7 @@ std::u16string directory_of_drive(GuardedSteps& steps, char16_t letter) {
   char16_t saved = 0;
   steps.run([&] { saved = platform::current_drive(); });
   files::change_drive(steps, letter);
-  const std::u16string directory = files::current_directory(steps);
+  std::u16string directory = files::current_directory(steps);
   files::change_drive(steps, saved);
   return directory;
 }

@@ -80,7 +80,7 @@ SAFEARRAY* typed_array(const VARIANT& argument, VARTYPE element) {
   if ((variable.vt & kVtArray) == 0) throw Refused{status::kTypeMismatch};
   SAFEARRAY* values = array_in(variable);
   if (values == nullptr || values->cDims == 0) return nullptr;
-  const VARTYPE kind = static_cast<VARTYPE>(variable.vt & kVtTypeMask);
+  const auto kind = static_cast<VARTYPE>(variable.vt & kVtTypeMask);
   if (kind == element) {
     SAFEARRAY* copy = nullptr;
     if (SafeArrayCopy(values, &copy) < 0) throw Refused{status::kOutOfMemory};

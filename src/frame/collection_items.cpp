@@ -29,7 +29,7 @@ CollectionNode& CollectionItems::at(std::int64_t position) const {
 
 CollectionNode& CollectionItems::indexed(const Variant& index) const {
   const VARIANT& value = index.contents();
-  const VARTYPE kind = static_cast<VARTYPE>(value.vt & ~kVtByRef);
+  const auto kind = static_cast<VARTYPE>(value.vt & ~kVtByRef);
   if (kind == kVtBstr) {
     String scratch;
     return value.vt == kVtBstr ? named(index.text(scratch)) : named(Variant::copy_of(value).text());

@@ -21,7 +21,7 @@ HRESULT KW_STDCALL invoke(ObjectBase* self, DISPID member, const GUID* reserved,
 
 // Hands a result over as a variant.
 template <class R>
-void to_variant(R&& value, VARIANT* out) {
+void to_variant(R value, VARIANT* out) {
   if constexpr (std::is_same_v<R, Unknown>) {
     out->vt = kVtUnknown;
     out->punkVal = value.release();

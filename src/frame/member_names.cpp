@@ -1,12 +1,14 @@
 #include "frame/member_names.h"
 
+#include <type_traits>
+
 namespace kw::frame {
 namespace {
 
 // Published names are ASCII, so that is all the case there is to fold.
 template <class C>
 constexpr std::uint32_t folded(C c) {
-  const auto code = static_cast<std::uint32_t>(c);
+  const auto code = static_cast<std::uint32_t>(static_cast<std::make_unsigned_t<C>>(c));
   return code - u'A' < 26u ? code | 0x20u : code;
 }
 

@@ -25,7 +25,7 @@ struct AdaptersOf {
   static std::vector<Parameter> parameters(std::initializer_list<ParameterName> names) {
     if (names.size() != sizeof...(P)) throw std::logic_error("a parameter has no name");
     std::vector<Parameter> result;
-    auto name = names.begin();
+    const auto* name = names.begin();
     (result.push_back(parameter<P>(*name++)), ...);
     return result;
   }

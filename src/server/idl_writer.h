@@ -1,4 +1,5 @@
-// The definitions of the library's interfaces in the language that type libraries are compiled from.
+// The definitions of the library's interfaces in the language that type libraries are compiled
+// from.
 #pragma once
 
 #include <string>
