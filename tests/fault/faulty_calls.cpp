@@ -90,6 +90,9 @@ int FaultyCalls::open(const char* path, int flags, mode_t mode) {
   return fails("open") ? -1 : next_.open(path, flags, mode);
 }
 int FaultyCalls::duplicate(int file) { return fails("duplicate") ? -1 : next_.duplicate(file); }
+int FaultyCalls::make_blocking(int file) {
+  return fails("make_blocking") ? -1 : next_.make_blocking(file);
+}
 ssize_t FaultyCalls::read(int file, void* buffer, std::size_t size) {
   return fails("read") ? -1 : next_.read(file, buffer, size);
 }

@@ -48,6 +48,7 @@ class FaultyCalls : public platform::SystemCalls {
   int open(const char* path, int flags, mode_t mode) override;
   int close(int file) override;
   int duplicate(int file) override;
+  int make_blocking(int file) override;
   ssize_t read(int file, void* buffer, std::size_t size) override;
   ssize_t write(int file, const void* bytes, std::size_t size) override;
   off_t lseek(int file, off_t offset, int whence) override;

@@ -46,11 +46,16 @@ class SystemInput : public InputFile {
 
 }  // namespace
 
+// A pipe that nobody has open for writing is empty: to open it must not wait for a writer, though to
+// read it must wait for what a writer has not yet written.
 std::unique_ptr<InputFile> open_system_input(FileName name) {
-  Descriptor file = open_descriptor(name.path, O_RDONLY);
+  Descriptor file = open_descriptor(name.path, O_RDONLY | O_NONBLOCK);
   if (!file) throw_lookup_error(errno, name);
+  const mode_t mode = status_of(file, name).st_mode;
   // The system opens a folder and fails only when it is read.
-  if (S_ISDIR(status_of(file, name).st_mode)) throw_file_error(EISDIR, name.given);
+  if (S_ISDIR(mode)) throw_file_error(EISDIR, name.given);
+  if (!S_ISREG(mode) && system_calls().make_blocking(file.get()) != 0)
+    throw_file_error(errno, name.given);
   return std::make_unique<SystemInput>(std::move(file), std::move(name));
 }
 

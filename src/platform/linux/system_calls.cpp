@@ -19,6 +19,7 @@ int SystemCalls::open(const char* path, int flags, mode_t mode) {
 }
 int SystemCalls::close(int file) { return ::close(file); }
 int SystemCalls::duplicate(int file) { return ::fcntl(file, F_DUPFD_CLOEXEC, 0); }
+int SystemCalls::make_blocking(int file) { return ::fcntl(file, F_SETFL, 0); }
 ssize_t SystemCalls::read(int file, void* buffer, std::size_t size) {
   return ::read(file, buffer, size);
 }

@@ -17,6 +17,8 @@ class SystemCalls {
   virtual int close(int file);
   // A second descriptor of the same open file: position and lock are shared.
   virtual int duplicate(int file);
+  // Undoes O_NONBLOCK.
+  virtual int make_blocking(int file);
   virtual ssize_t read(int file, void* buffer, std::size_t size);
   virtual ssize_t write(int file, const void* bytes, std::size_t size);
   virtual off_t lseek(int file, off_t offset, int whence);
