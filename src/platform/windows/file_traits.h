@@ -23,7 +23,7 @@ FileTraits traits_of(const Handle& file);
 // Gives them to a file that is open for writing and for changing its rights.
 void set_traits(const Handle& file, const FileTraits& traits, const FileName& name);
 
-// Whether both names mean one file or folder that is there.
+// Whether both names mean one file or folder that is there. The left one is looked at first.
 bool is_one_file(const std::u16string& left, const std::u16string& right);
 
 // Whether the open thing stands for another file (a symbolic link, a mounted folder).

@@ -52,8 +52,10 @@ bool is_same_path(const FileName& left, const FileName& right) {
                               static_cast<int>(b.size()), TRUE) == CSTR_EQUAL;
 }
 
-bool is_same_file(const FileName& left, const FileName& right) {
-  return is_same_path(left, right) || is_one_file(left.path, right.path);
+// The target is looked at first: the other way round, another writer could put the temporary file
+// in its place in between, and one file would be seen under both names.
+bool is_same_file(const FileName& target, const FileName& temporary) {
+  return is_same_path(target, temporary) || is_one_file(target.path, temporary.path);
 }
 
 // A name beside the target, made the same way by everybody, so that two writers meet there.
@@ -62,6 +64,16 @@ FileName name_beside(const FileName& target) {
   const std::size_t start = full.find_last_of(u"\\/") + 1;
   const std::u16string base = full.substr(start, kLongestName - kSuffix.size());
   return native_name(full.substr(0, start) + base + std::u16string(kSuffix));
+}
+
+// Who waits for another writer asks again and again. They are answered before the target is opened:
+// a file that is open somewhere cannot be replaced, and the one who holds the name would wait too.
+void check_not_held(const FileName& temporary) {
+  constexpr DWORD kSharing = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+  const Handle file(CreateFileW(wide(temporary.path), GENERIC_READ, kSharing, nullptr,
+                                OPEN_EXISTING, FILE_FLAG_OPEN_REPARSE_POINT, nullptr));
+  if (!file && GetLastError() == ERROR_SHARING_VIOLATION)
+    throw_file_error(ERROR_SHARING_VIOLATION, temporary.given);
 }
 
 class SystemReplacement : public ReplacementFile {
@@ -81,7 +93,7 @@ class SystemReplacement : public ReplacementFile {
  private:
   static FileName checked(FileName target, const FileName& temporary) {
     traits_of_target(target);
-    if (is_same_file(temporary, target))
+    if (is_same_file(target, temporary))
       throw Error(ErrorNumber::invalid_argument, temporary.given);
     return target;
   }
@@ -100,6 +112,7 @@ class SystemReplacement : public ReplacementFile {
 }  // namespace
 
 std::unique_ptr<ReplacementFile> create_system_replacement(FileName temporary, FileName target) {
+  check_not_held(temporary);
   return std::make_unique<SystemReplacement>(std::move(temporary), follow_links(std::move(target)));
 }
 
