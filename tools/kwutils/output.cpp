@@ -14,14 +14,14 @@ void Output::drain() {
   if (to_ == nullptr) return;
   const std::size_t written = std::fwrite(buffer_.data(), 1, buffer_.size(), to_);
   if (written != buffer_.size())
-    fail("cannot write the answer: " + std::system_category().message(errno));
+    fail("cannot write the answer: " + std::generic_category().message(errno));
   buffer_.clear();
 }
 
 void Output::flush() {
   drain();
   if (to_ != nullptr && std::fflush(to_) != 0)
-    fail("cannot write the answer: " + std::system_category().message(errno));
+    fail("cannot write the answer: " + std::generic_category().message(errno));
 }
 
 }  // namespace kw::tool

@@ -4,6 +4,7 @@
 #include <string>
 #include <system_error>
 
+#include "base/unicode.h"
 #include "platform/library_file.h"
 #include "platform/registry.h"
 #include "tool/command.h"
@@ -22,9 +23,13 @@ platform::RegistryScope scope_of(const RegisterOptions& options) {
   return options.system ? platform::RegistryScope::system : platform::RegistryScope::user;
 }
 
+// The system's own form of a path is not UTF-8 everywhere.
+std::filesystem::path path_of(std::string_view text) { return from_utf8(text); }
+std::string text_of(const std::filesystem::path& path) { return to_utf8(path.u16string()); }
+
 // Beside the tool, or in the library folder of the place where both are installed.
 std::filesystem::path default_library() {
-  const std::filesystem::path tool = platform::own_module_path();
+  const std::filesystem::path tool = path_of(platform::own_module_path());
   const std::filesystem::path beside = tool.parent_path() / platform::kLibraryFile;
   std::error_code ignored;
   if (std::filesystem::exists(beside, ignored)) return beside;
@@ -33,12 +38,12 @@ std::filesystem::path default_library() {
 
 std::string library_file(const RegisterOptions& options) {
   const std::filesystem::path file =
-      options.library.empty() ? default_library() : std::filesystem::path(options.library);
+      options.library.empty() ? default_library() : path_of(options.library);
   std::error_code failure;
   const std::filesystem::path path = std::filesystem::canonical(file, failure);
   if (failure)
-    fail("cannot register the library " + in_quotes(file.string()) + ": " + failure.message());
-  return path.string();
+    fail("cannot register the library " + in_quotes(text_of(file)) + ": " + failure.message());
+  return text_of(path);
 }
 
 void answer(Session& session, const char* done, const std::string& library) {

@@ -13,6 +13,7 @@ namespace {
 
 void add_commands(CLI::App& app, Session& session) {
   app.name("kwutils");
+  app.allow_windows_style_options(false);  // "/" begins a path or a text, on every system
   app.require_subcommand(1);
   app.footer(
       "'kwutils COMMAND --help' explains a command and shows an example.\n"

@@ -5,6 +5,8 @@
 
 namespace kw::platform {
 
+void use_plain_streams() noexcept {}
+
 bool is_terminal(std::FILE* stream) noexcept { return isatty(fileno(stream)) == 1; }
 
 int terminal_width(std::FILE* stream) noexcept {
