@@ -14,9 +14,10 @@ namespace {
 
 namespace fs = std::filesystem;
 
-const Library& library() {
-  static const Library loaded(KW_LIBRARY);
-  return loaded;
+const Library& library(Route route) {
+  static const Library late_bound(KW_LIBRARY, Route::late_bound);
+  static const Library slots(KW_LIBRARY, Route::slots);
+  return route == Route::slots ? slots : late_bound;
 }
 
 // A file of cases that lives as long as the test needs it.
@@ -39,9 +40,9 @@ class CaseFile {
 
 }  // namespace
 
-Report report_on(const std::string& path, const std::string& filter) {
+Report report_on(const std::string& path, const std::string& filter, Route route) {
   std::ostringstream out;
-  Run run(library(), filter, out);
+  Run run(library(route), filter, out);
   run.run_file(path);
   Report report;
   report.status = run.close();
@@ -51,9 +52,19 @@ Report report_on(const std::string& path, const std::string& filter) {
   return report;
 }
 
-Report report_on_text(const std::string& content, const std::string& filter) {
+Report report_on_text(const std::string& content, const std::string& filter, Route route) {
   const CaseFile file(content);
-  return report_on(file.path(), filter);
+  return report_on(file.path(), filter, route);
+}
+
+std::string report_on_every_method(const std::string& content) {
+  const CaseFile file(content);
+  std::ostringstream out;
+  Run run(library(Route::late_bound), "", out);
+  run.run_file(file.path());
+  run.require_every_method();
+  run.close();
+  return out.str();
 }
 
 Json text(const std::string& value, bool reference) {

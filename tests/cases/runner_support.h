@@ -8,6 +8,7 @@
 #include <string>
 
 #include "runner/json_text.h"
+#include "runner/library.h"
 
 namespace kw::cases {
 
@@ -18,8 +19,12 @@ struct Report {
 };
 
 // What the runner says about a file, or about a file of this content.
-Report report_on(const std::string& path, const std::string& filter = "");
-Report report_on_text(const std::string& content, const std::string& filter = "");
+Report report_on(const std::string& path, const std::string& filter = "",
+                 Route route = Route::late_bound);
+Report report_on_text(const std::string& content, const std::string& filter = "",
+                      Route route = Route::late_bound);
+// The report on a run that must call every method.
+std::string report_on_every_method(const std::string& content);
 
 // Braces around one JSON value are a list of it, or the value itself, as the compiler likes.
 template <class... Values>

@@ -26,7 +26,7 @@ T* exchanged(IUnknown* object, const GUID& iid) {
 
 }  // namespace
 
-Library::Library(std::string path) : path_(std::move(path)) {
+Library::Library(std::string path, Route route) : path_(std::move(path)), route_(route) {
   IClassFactory& any = factory("clsParse");
   any.AddRef();
   door_ = exchanged<IHostDoor>(&any, kIidHostDoor);

@@ -10,10 +10,15 @@
 
 namespace kw::cases {
 
+// How methods are called: by name, as scripts do, or through their slots, as compiled clients do.
+enum class Route { late_bound, slots };
+
 class Library {
  public:
   // Throws kw::Error 429 when the file is no such library.
-  explicit Library(std::string path);
+  explicit Library(std::string path, Route route = Route::late_bound);
+
+  Route route() const noexcept { return route_; }
 
   // A fresh object of a class ("clsParse"); error 429 when there is no such class.
   Object create(const std::string& class_name) const;
@@ -27,6 +32,7 @@ class Library {
   IClassFactory& factory(const std::string& class_name) const;
 
   std::string path_;
+  Route route_;
   mutable std::map<std::string, IClassFactory*> factories_;  // kept to the end of the program
   IHostDoor* door_;
 };

@@ -1,33 +1,20 @@
-// Late-bound calls on one object, as a script makes them.
+// Calls on one object, as a script or as a compiled client makes them.
 #pragma once
 
-#include <cstdint>
-#include <optional>
 #include <string>
 #include <vector>
 
 #include "caller_variable.h"
+#include "failure_of_status.h"
 #include "library.h"
 
 namespace kw::cases {
-
-struct Failure {
-  std::int64_t number = 0;
-  std::u16string source;
-  std::u16string description;
-};
-
-// What one call answers.
-struct Called {
-  Variant result;
-  std::optional<Failure> failure;
-};
 
 class MethodCaller {
  public:
   // Makes a fresh object of the class.
   MethodCaller(const Library& library, const std::string& class_name)
-      : library_(library), object_(library.create(class_name)) {}
+      : library_(library), class_name_(class_name), object_(library.create(class_name)) {}
 
   // The variables of a call, in the order of the parameters.
   std::vector<CallerVariable> variables(const Json& args) const;
@@ -35,6 +22,7 @@ class MethodCaller {
 
  private:
   const Library& library_;
+  std::string class_name_;
   Object object_;
 };
 

@@ -4,7 +4,9 @@
 #include <fstream>
 #include <ostream>
 
+#include "fields.h"
 #include "run_case.h"
+#include "server/class_list.h"
 
 namespace kw::cases {
 namespace {
@@ -21,6 +23,10 @@ Outcome outcome_of(const Library& library, const Json& one) {
   } catch (const std::exception& failure) {
     return {{std::string("the case cannot be run: ") + failure.what()}, {}};
   }
+}
+
+std::string method_of(std::string_view class_name, std::string_view method) {
+  return std::string(class_name) + "." + std::string(method);
 }
 
 bool is_blank(const std::string& line) { return line.find_first_not_of(" \t\r") == line.npos; }
@@ -46,6 +52,7 @@ void Run::run_line(const std::string& line, const std::string& place) {
     ++skipped_;
   } else if (outcome.differences.empty()) {
     ++passed_;
+    called_.insert(method_of(text_field(one, "class"), text_field(one, "method")));
   } else {
     fail(id_of(one, place));
     for (const std::string& difference : outcome.differences) out_ << "  " << difference << "\n";
@@ -63,6 +70,18 @@ void Run::run_file(const std::string& path) {
       run_line(line, path + ":" + std::to_string(number));
   }
   if (input.bad()) fail(path + ": cannot be read to its end");
+}
+
+void Run::require_every_method() {
+  std::size_t all = 0;
+  for (const frame::ClassTable* table : server::classes())
+    for (const frame::Method& method : table->description().methods) {
+      const std::string name = method_of(table->description().name, method.name);
+      ++all;
+      if (!called_.contains(name)) fail(name + " is called by no case that passes");
+    }
+  out_ << called_.size() << " of " << all << " methods called "
+       << (library_.route() == Route::slots ? "through their slots" : "late-bound") << "\n";
 }
 
 int Run::close() {

@@ -3,6 +3,7 @@
 
 #include <iosfwd>
 #include <map>
+#include <set>
 #include <string>
 
 #include "library.h"
@@ -17,6 +18,8 @@ class Run {
 
   // A file that cannot be read, a line that is no case and a case that cannot be run are failures.
   void run_file(const std::string& path);
+  // Fails the run for each method of the library that no case called and passed.
+  void require_every_method();
   // Prints the totals; the exit status.
   int close();
 
@@ -30,6 +33,7 @@ class Run {
   int passed_ = 0;
   int failed_ = 0;
   int skipped_ = 0;
+  std::set<std::string> called_;            // "class.method" of the cases that passed
   std::map<std::string, int> unsupported_;  // key -> cases that ask for it
 };
 
