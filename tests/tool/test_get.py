@@ -3,7 +3,7 @@
 
 import unittest
 
-from tool_case import FAILED, NOT_FOUND, PLANT, ToolCase
+from tool_case import FAILED, NOT_FOUND, PLANT, ToolCase, system_text
 
 
 class Get(ToolCase):
@@ -57,7 +57,8 @@ class Get(ToolCase):
 
     def test_says_why_a_file_cannot_be_read(self):
         self.refuse("get", ".", "NODE", "B1", code=FAILED,
-                    message="cannot look for NODE B1 in '.': Permission denied (Is a directory)")
+                    message="cannot look for NODE B1 in '.': Permission denied "
+                            f"({system_text('Is a directory', 'Access denied')})")
 
 
 if __name__ == "__main__":

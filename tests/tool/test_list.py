@@ -3,7 +3,7 @@
 
 import unittest
 
-from tool_case import FAILED, NOT_FOUND, PLANT, ToolCase
+from tool_case import FAILED, NOT_FOUND, PLANT, ToolCase, system_text
 
 
 class List(ToolCase):
@@ -46,6 +46,12 @@ class List(ToolCase):
         self.assertEqual(self.ask("list", "plant.ent", "PIPE", code=NOT_FOUND).out, "")
         self.assertEqual(self.ask("list", "plant.ent", "PIPE", "--json", code=NOT_FOUND).json, [])
 
+    def test_takes_file_names_in_any_script(self):
+        self.write("Ωμέγα и 川.ent", PLANT)
+        self.assertEqual(self.ask("ids", "Ωμέγα и 川.ent", "NODE").out, "B1\nB2\n")
+        self.refuse("ids", "川 1.ent", "NODE", code=FAILED,
+                    message="cannot list the identifiers of NODE in '川 1.ent': File not found")
+
     def test_says_which_file_is_missing(self):
         self.refuse("list", "none.ent", code=FAILED, message="cannot count the types in 'none.ent': File not found")
         self.refuse("list", "none.ent", "NODE", code=FAILED, message="cannot list NODE in 'none.ent': File not found")
@@ -64,7 +70,7 @@ class Ids(ToolCase):
     def test_says_which_file_is_missing(self):
         self.refuse("ids", "no/ids.ent", "NODE", code=FAILED,
                     message="cannot list the identifiers of NODE in 'no/ids.ent': "
-                            "Path not found (No such file or directory)")
+                            f"Path not found ({system_text('No such file or directory', 'Path not found')})")
 
 
 if __name__ == "__main__":

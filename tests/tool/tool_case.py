@@ -3,11 +3,21 @@
 import json
 import os
 import pathlib
+import shlex
 import subprocess
 import tempfile
 import unittest
 
-TOOL = os.environ["KW_TOOL"]
+# Words of a command line; the last one is the tool itself.
+TOOL = shlex.split(os.environ["KW_TOOL"])
+# Otherwise it is another system's, which words its errors in its own way.
+NATIVE = len(TOOL) == 1
+
+
+def system_text(native, other):
+    """The system's own words for an error."""
+    return native if NATIVE else other
+
 
 DONE, NOT_FOUND, USAGE, FAILED = 0, 1, 2, 3
 
@@ -61,7 +71,7 @@ class ToolCase(unittest.TestCase):
         return (self.folder / name).read_bytes().decode("cp1252")
 
     def run_tool(self, *words, stdin=b""):
-        return Answer(subprocess.run([TOOL, *words], cwd=self.folder, input=stdin,
+        return Answer(subprocess.run([*TOOL, *words], cwd=self.folder, input=stdin,
                                      capture_output=True, timeout=300, check=False))
 
     def ask(self, *words, code=DONE, stdin=b""):
