@@ -52,6 +52,16 @@ bool other_bitness_serves(RegistryScope scope, const RegisteredClass& entry) {
   return true;
 }
 
+// While the other bitness is registered, only the file of this one goes: the system's own function
+// would remove the interfaces that both share.
+void remove_type_library(RegistryKey& classes, const TypeLibraryId& types, RegistryScope scope,
+                         bool shared) {
+  if (shared)
+    classes.remove(type_library_file_key(types));
+  else  // what is not there cannot be removed: no failure
+    unregister_type_library(types, scope == RegistryScope::user);
+}
+
 void check(HRESULT answer) {
   if (answer >= 0) return;
   const auto code = static_cast<std::uint32_t>(answer);
@@ -71,13 +81,15 @@ void register_classes(std::span<const RegisteredClass> classes, std::string_view
 
 void unregister_classes(std::span<const RegisteredClass> classes, RegistryScope scope) {
   RegistryKey key(root(scope), kClasses);
+  bool shared = false;
   for (const RegisteredClass& entry : classes) {
     key.remove(class_key(entry));
-    if (!other_bitness_serves(scope, entry)) key.remove(from_utf8(entry.name));
+    const bool other_serves = other_bitness_serves(scope, entry);
+    shared = shared || other_serves;
+    if (!other_serves) key.remove(from_utf8(entry.name));
   }
-  // What is not there cannot be removed: no failure.
   if (const auto types = type_library_of(from_utf8(own_module_path())))
-    unregister_type_library(*types, scope == RegistryScope::user);
+    remove_type_library(key, *types, scope, shared);
 }
 
 RegistryScope own_scope() noexcept { return RegistryScope::system; }

@@ -1,7 +1,10 @@
 #include "platform/windows/type_library.h"
 
+#include <cstdio>
 #include <cstring>
 
+#include "base/unicode.h"
+#include "platform/guid_text.h"
 #include "platform/windows/system.h"
 // After the system's general header.
 #include <oleauto.h>
@@ -51,6 +54,14 @@ std::optional<TypeLibraryId> type_library_of(const std::u16string& file) noexcep
   result.locale = attributes->lcid;
   library->ReleaseTLibAttr(attributes);
   return result;
+}
+
+std::u16string type_library_file_key(const TypeLibraryId& library) {
+  char numbers[40] = {};
+  std::snprintf(numbers, sizeof numbers, "\\%x.%x\\%x\\win%d", unsigned{library.major},
+                unsigned{library.minor}, static_cast<unsigned>(library.locale),
+                sizeof(void*) == 8 ? 64 : 32);
+  return from_utf8("TypeLib\\" + guid_text(library.id) + numbers);
 }
 
 HRESULT register_type_library(const std::u16string& file, bool for_user_only) noexcept {

@@ -22,6 +22,9 @@ struct TypeLibraryId {
 // Nothing when the file carries no type library.
 std::optional<TypeLibraryId> type_library_of(const std::u16string& file) noexcept;
 
+// Where the registry of classes names the type library's file for this program's bitness.
+std::u16string type_library_file_key(const TypeLibraryId& library);
+
 // Records the type library and its interfaces for this program's bitness, or removes them; the
 // system's status.
 HRESULT register_type_library(const std::u16string& file, bool for_user_only) noexcept;
