@@ -100,10 +100,9 @@ class Rewriting::Files : public platform::FileService {
       std::u16string_view temporary, std::u16string_view target) override {
     return remembering(last_error, [&] { return begin_replacement(temporary, target); });
   }
-  bool exists(std::u16string_view name) override {
-    return kept_.exists(name) || system_.exists(name);
+  void check_attributes(std::u16string_view name) override {
+    if (!kept_.exists(name)) system_.check_attributes(name);
   }
-  void check_attributes(std::u16string_view name) override { system_.check_attributes(name); }
   void remove(std::u16string_view name) override { system_.remove(name); }
 
   std::string old_content(std::u16string_view name) {
