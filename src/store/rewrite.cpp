@@ -15,10 +15,10 @@ constexpr std::size_t kLongestKept = std::size_t{256} << 10;
 
 }  // namespace
 
-Rewrite::Rewrite(std::u16string_view file) : temporary_(temporary_name(file)) {
+Rewrite::Rewrite(std::u16string_view file)
+    : temporary_(temporary_name(file)), staged_(new char[kStaged]) {
   platform::FileService& service = platform::files();
   new_file_ = service.create_replacement(temporary_, file);
-  staged_.reserve(kStaged);
   if (!service.exists(file)) return;
   old_file_ = service.open_input(file);
   old_records_ = std::make_unique<RecordReader>(*old_file_);
@@ -29,11 +29,18 @@ void Rewrite::refuse_temporary(std::u16string_view file) const {
     throw Error(ErrorNumber::permission_denied, to_utf8(file));
 }
 
-void Rewrite::write_through(std::string_view bytes) {
-  new_file_->write(staged_);
-  staged_.clear();
-  if (bytes.size() > kStaged) return new_file_->write(bytes);
-  staged_.append(bytes);
+void Rewrite::write_over_the_end(std::string_view bytes) {
+  for (std::size_t room; (room = kStaged - staged_size_) < bytes.size();) {
+    stage(bytes.substr(0, room));
+    write_staged();
+    bytes.remove_prefix(room);
+  }
+  stage(bytes);
+}
+
+void Rewrite::write_staged() {
+  new_file_->write({staged_.get(), staged_size_});
+  staged_size_ = 0;
 }
 
 void Rewrite::copy_block(std::string_view record, const ClosingWord& closing) {
@@ -70,8 +77,7 @@ void Rewrite::drop_block(std::string_view record, const ClosingWord& closing) {
 }
 
 void Rewrite::finish() {
-  new_file_->write(staged_);
-  staged_.clear();
+  write_staged();
   old_records_.reset();
   old_file_.reset();  // some systems do not replace a file that is open
   new_file_->replace();

@@ -6,7 +6,9 @@
 // last record was read.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
+#include <cstring>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -46,8 +48,8 @@ class Rewrite {
 
   // Writes as it is.
   void write(std::string_view bytes) {
-    if (bytes.size() > kStaged - staged_.size()) return write_through(bytes);
-    staged_.append(bytes);
+    if (bytes.size() > kStaged - staged_size_) return write_over_the_end(bytes);
+    stage(bytes);
   }
   void write_line(std::string_view line) {
     write(line);
@@ -64,9 +66,16 @@ class Rewrite {
   void finish();
 
  private:
-  static constexpr std::size_t kStaged = std::size_t{64} << 10;
+  // Handed to the new file in full pieces, which are long enough to be written without another
+  // copy.
+  static constexpr std::size_t kStaged = std::size_t{128} << 10;
 
-  void write_through(std::string_view bytes);
+  void stage(std::string_view bytes) {
+    std::memcpy(staged_.get() + staged_size_, bytes.data(), bytes.size());
+    staged_size_ += bytes.size();
+  }
+  void write_staged();
+  void write_over_the_end(std::string_view bytes);
   void copy_long_block(std::string_view record, const ClosingWord& closing);
 
   std::u16string temporary_;
@@ -74,7 +83,8 @@ class Rewrite {
   std::unique_ptr<platform::InputFile> old_file_;
   std::unique_ptr<RecordReader> old_records_;
   std::int64_t record_position_ = 0;  // of the record read last, or of the comments before it
-  std::string staged_;
+  std::unique_ptr<char[]> staged_;  // not cleared: small files never touch most of it
+  std::size_t staged_size_ = 0;
   std::string block_;  // the records of one block that wait for the comments inside it
 };
 
