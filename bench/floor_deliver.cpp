@@ -5,6 +5,7 @@
 
 #include "floors.h"
 #include "line_reader.h"
+#include "trimmed_writer.h"
 
 namespace kw::bench {
 namespace {
@@ -136,39 +137,46 @@ struct IdKeeper {
   void closed(const char*, const char*) {}
 };
 
-// A line that ends in "TBLE" has the rows behind it, up to the line that begins with "tble".
-struct RowKeeper {
-  Delivered& out;
+// A line that ends in "TBLE" has the rows behind it, up to the line that begins with "tble". Each
+// goes to on_row(begin, end).
+template <class OnRow>
+struct RowWalk {
+  OnRow on_row;
   bool in_table = false;
-  std::string row{};
 
   void opened(const char*, const char*) { in_table = false; }
   void inside(const char* begin, const char* end) {
-    if (in_table) return add(begin, end);
+    if (in_table) return row(begin, end);
     in_table = end - begin >= 4 && std::memcmp(end - 4, "TBLE", 4) == 0;
   }
   void closed(const char*, const char*) { in_table = false; }
 
-  void add(const char* begin, const char* end) {
-    const auto length = static_cast<std::size_t>(end - begin);
-    if (length >= 4 && std::memcmp(begin, "tble", 4) == 0) {
-      in_table = false;
-      return;
-    }
-    Text text{std::make_unique_for_overwrite<char16_t[]>(length + 2), length + 2};
-    widen(begin, length, text.characters.get());
-    std::copy_n(u"\r\n", 2, text.characters.get() + length);
-    out.values.push_back(std::move(text));
+  void row(const char* begin, const char* end) {
+    in_table = end - begin < 4 || std::memcmp(begin, "tble", 4) != 0;
+    if (in_table) on_row(begin, end);
   }
 };
 
+Text row_text(const char* begin, const char* end) {
+  const auto length = static_cast<std::size_t>(end - begin);
+  Text text{std::make_unique_for_overwrite<char16_t[]>(length + 2), length + 2};
+  widen(begin, length, text.characters.get());
+  std::copy_n(u"\r\n", 2, text.characters.get() + length);
+  return text;
+}
+
 template <class Keeper>
-void walk(const std::filesystem::path& file, std::string_view type, Keeper keeper) {
+void walk(const std::filesystem::path& file, std::string_view type, Seen& seen, Keeper keeper) {
   Walk<Keeper> walk(type, keeper);
   for_each_line(file, [&](const Line& line) {
-    keeper.out.seen.note(line);
+    seen.note(line);
     walk.take(line);
   });
+}
+
+template <class OnRow>
+void walk_rows(const std::filesystem::path& file, std::string_view type, Seen& seen, OnRow on_row) {
+  walk(file, type, seen, RowWalk<OnRow>{on_row});
 }
 
 }  // namespace
@@ -177,22 +185,37 @@ Delivered floor_deliver(const std::filesystem::path& file, std::string_view type
   Delivered out;
   switch (values) {
     case Values::entities:
-      walk(file, type, EntityKeeper{out, false});
+      walk(file, type, out.seen, EntityKeeper{out, false});
       break;
     case Values::keyed_entities:
-      walk(file, type, EntityKeeper{out, true});
+      walk(file, type, out.seen, EntityKeeper{out, true});
       break;
     case Values::ids:
-      walk(file, type, IdKeeper{out, false});
+      walk(file, type, out.seen, IdKeeper{out, false});
       break;
     case Values::ids_and_names:
-      walk(file, type, IdKeeper{out, true});
+      walk(file, type, out.seen, IdKeeper{out, true});
       break;
     case Values::rows:
-      walk(file, type, RowKeeper{out});
+      walk_rows(file, type, out.seen, [&](const char* begin, const char* end) {
+        out.values.push_back(row_text(begin, end));
+      });
       break;
   }
   return out;
+}
+
+std::size_t floor_spill_rows(const std::filesystem::path& file, std::string_view type,
+                             const std::filesystem::path& second) {
+  Seen seen;
+  std::size_t count = 0;
+  TrimmedWriter writer(second);
+  walk_rows(file, type, seen, [&](const char* begin, const char* end) {
+    writer.write({begin, end, 0, 0});
+    ++count;
+  });
+  writer.finish(false);
+  return count;
 }
 
 }  // namespace kw::bench

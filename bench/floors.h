@@ -25,6 +25,11 @@ enum class Flush { no, yes };
 // disk if asked to, and puts it in the first one's place.
 Seen floor_rewrite(const std::filesystem::path& file, Flush flush);
 
+// F1 that also writes the rows of the tables of one type's entities, trimmed, to a second file,
+// without a flush. Gives how many there were.
+std::size_t floor_spill_rows(const std::filesystem::path& file, std::string_view type,
+                             const std::filesystem::path& second);
+
 // One delivered 16-bit string.
 struct Text {
   std::unique_ptr<char16_t[]> characters;

@@ -67,6 +67,18 @@ void f3_rows(benchmark::State& state) {
   count_bytes(state, file);
 }
 
+void spilled_rows(benchmark::State& state) {
+  const auto rows = static_cast<std::size_t>(state.range(0));
+  const EntityFile& file = table_file(rows);
+  const auto second = data_folder() / "spilled_floor";
+  measure(state, [&] {
+    const std::size_t count = floor_spill_rows(file.path, kSixthType, second);
+    require(count == rows, "a row was missed");
+    return count;
+  });
+  count_bytes(state, file);
+}
+
 void at_all_sizes(benchmark::internal::Benchmark* benchmark) {
   benchmark->Arg(kSmall)->Arg(kMedium)->Arg(kLarge)->UseManualTime()->Unit(benchmark::kMicrosecond);
 }
@@ -86,6 +98,7 @@ BENCHMARK_CAPTURE(f3, keyed, Values::keyed_entities)
 BENCHMARK_CAPTURE(f3, ids, Values::ids)->Name("F3_ids")->Apply(at_all_sizes);
 BENCHMARK_CAPTURE(f3, names, Values::ids_and_names)->Name("F3_ids_and_names")->Apply(at_all_sizes);
 BENCHMARK(f3_rows)->Name("F3_rows")->Apply(on_the_table);
+BENCHMARK(spilled_rows)->Name("F1_spilled_rows")->Apply(on_the_table);
 
 }  // namespace
 }  // namespace kw::bench

@@ -139,5 +139,12 @@ TEST(FloorDeliver, FindsEveryEntityOfAGeneratedFile) {
   EXPECT_EQ(narrow(delivered.names), names);
 }
 
+TEST(FloorSpillRows, WritesTheRowsTrimmed) {
+  const TestFolder folder;
+  const auto second = folder.path() / "rows";
+  EXPECT_EQ(floor_spill_rows(folder.write("a.dat", kSample), "NODE", second), 2u);
+  EXPECT_EQ(contents(second), "0.0 1.5 <\r\n1.0 2.5 <\r\n");
+}
+
 }  // namespace
 }  // namespace kw::bench

@@ -6,13 +6,25 @@
 #include <chrono>
 #include <exception>
 
+#if defined(__GLIBC__)
+#include <malloc.h>
+#endif
+
 namespace kw::bench {
+
+// What an earlier benchmark left in the allocator must not be paid for by the next one.
+inline void tidy_heap() {
+#if defined(__GLIBC__)
+  ::malloc_trim(0);
+#endif
+}
 
 // Times work() alone: neither prepare(), which runs before it, nor the release of what it returns.
 // Register the benchmark with UseManualTime(). A failure that is thrown fails the benchmark.
 template <class Prepare, class Work>
 void measure(benchmark::State& state, Prepare prepare, Work work) try {
   using Clock = std::chrono::steady_clock;
+  tidy_heap();
   for (auto step : state) {
     static_cast<void>(step);
     prepare();

@@ -13,7 +13,7 @@ may be missing. A key may carry its argument ("Sort/1000"); so may a floor, whic
 benchmark whatever the argument.
 
 The ratio is the median over the median of the repetitions; "best" is the fastest over the fastest,
-which a busy machine disturbs least. Exit status 1 when a benchmark failed; never because of a time.
+which a busy machine disturbs least. "held" is the memory that a benchmark counts. Exit status 1 when a benchmark failed; never because of a time.
 """
 
 import json
@@ -24,15 +24,17 @@ import sys
 LIMITS = pathlib.Path(__file__).with_name("limits.json")
 NANOSECONDS = {"ns": 1, "us": 1e3, "ms": 1e6, "s": 1e9}
 RUN_OPTIONS = {"manual_time", "real_time", "process_time"}
-HEADINGS = ("benchmark", "time", "spread", "MB/s", "floor", "its time", "ratio", "best", "limit", "")
+HEADINGS = ("benchmark", "time", "spread", "MB/s", "held", "floor", "its time", "ratio", "best", "limit", "")
 
 
 class Benchmark:
-    """The repetitions of one benchmark: times in nanoseconds, bytes per second when counted."""
+    """The repetitions of one benchmark: times in nanoseconds, bytes per second and bytes held when
+    counted."""
 
     def __init__(self):
         self.times = []
         self.rates = []
+        self.held = []
         self.error = None
 
     def add(self, run):
@@ -42,6 +44,8 @@ class Benchmark:
         self.times.append(run["real_time"] * NANOSECONDS[run["time_unit"]])
         if "bytes_per_second" in run:
             self.rates.append(run["bytes_per_second"])
+        if "held" in run:
+            self.held.append(run["held"])
 
     @property
     def time(self):
@@ -109,7 +113,8 @@ def row(name, result, results, limits):
     if not result.times:
         return [name, result.error or "no time"] + [""] * (len(HEADINGS) - 2)
     rate = f"{statistics.median(result.rates) / 1e6:.0f}" if result.rates else ""
-    cells = [name, show_time(result.time), f"{result.spread:.0%}", rate]
+    held = f"{max(result.held) / 1024:.0f} KiB" if result.held else ""
+    cells = [name, show_time(result.time), f"{result.spread:.0%}", rate, held]
     floor_name, limit = find_floor(name, limits)
     floor = results.get(floor_name)
     if floor is None or not floor.times:
@@ -120,7 +125,7 @@ def row(name, result, results, limits):
 def print_table(rows):
     widths = [max(len(r[i]) for r in rows) for i in range(len(HEADINGS))]
     for cells in rows:
-        aligned = (c.ljust(w) if i in (0, 4) else c.rjust(w)
+        aligned = (c.ljust(w) if i in (0, 5) else c.rjust(w)
                    for i, (c, w) in enumerate(zip(cells, widths)))
         print("  ".join(aligned).rstrip())
 

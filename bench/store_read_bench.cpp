@@ -1,5 +1,6 @@
 // The readers of the store on whole files. Each is asked for what lies at the end of the file, or
 // for all of it.
+#include "kwutils/host.h"
 #include "store_bench.h"
 
 namespace kw::bench {
@@ -143,6 +144,18 @@ void list_one(benchmark::State& state) {
   list(state, "nm '" + entity_name(last) + "'", 1);
 }
 
+// With a host that wants its turn after each record, and does nothing with it.
+void list_one_for_a_host(benchmark::State& state) {
+  std::size_t turns = 0;
+  HostFunctions host;
+  host.context = &turns;
+  host.process_events = [](void* context) KW_STDCALL { ++*static_cast<std::size_t*>(context); };
+  set_host(host);
+  list_one(state);
+  set_host(HostFunctions());
+  if (turns == 0) state.SkipWithError("the host had no turn");
+}
+
 void get_table_entry(benchmark::State& state) {
   const auto rows = static_cast<std::int32_t>(state.range(0));
   const EntityFile& file = table_file(static_cast<std::size_t>(rows));
@@ -193,10 +206,9 @@ BENCHMARK_CAPTURE(get_entities_with_collection, half, SIZE_MAX)
     ->Apply(at_all_sizes);
 BENCHMARK(list_all)->Name("List2EntitieswithSearch")->Apply(at_all_sizes);
 BENCHMARK(list_one)->Name("List2EntitieswithSearch_one")->Apply(at_all_sizes);
+BENCHMARK(list_one_for_a_host)->Name("List2EntitieswithSearch_one_hosted")->Apply(at_all_sizes);
 BENCHMARK(get_table_entry)->Name("GetTableEntry")->Apply(on_the_table);
-BENCHMARK(get_table_entry_using_temp_file)
-    ->Name("GetTableEntryUsingTempFile")
-    ->Apply(on_the_table);
+BENCHMARK(get_table_entry_using_temp_file)->Name("GetTableEntryUsingTempFile")->Apply(on_the_table);
 
 }  // namespace
 }  // namespace kw::bench

@@ -1,15 +1,26 @@
 // The writers of the store on a copy of a whole file, each beside F2, which flushes as they do.
+// Those of one entity also without the flush, which a busy disk makes anything from short to long.
+#include <optional>
 #include <string>
 
+#include "floors.h"
+#include "platform/linux/system_calls.h"
 #include "scratch_copy.h"
 #include "store_bench.h"
 
 namespace kw::bench {
 namespace {
 
+struct NoFlush : platform::SystemCalls {
+  int fsync(int) override { return 0; }
+};
+
 // Calls write(store, name of the copy). The file differs from one call to the next by one entity.
 template <class Write>
-void on_a_copy(benchmark::State& state, Write write) {
+void on_a_copy(benchmark::State& state, Flush flush, Write write) {
+  NoFlush calls;
+  std::optional<platform::ScopedSystemCalls> unflushed;
+  if (flush == Flush::no) unflushed.emplace(calls);
   const EntityFile& file = file_of(state);
   const ScratchCopy copy(file.path);
   String name = name_of(copy.path());
@@ -23,26 +34,26 @@ void on_a_copy(benchmark::State& state, Write write) {
   count_bytes(state, file);
 }
 
-void write_entity_replacing(benchmark::State& state) {
+void write_entity_replacing(benchmark::State& state, Flush flush) {
   const std::size_t last = last_of(file_of(state), kHalfType);
   const String id = text(entity_id(last));
   const String entity = text("id '" + entity_id(last) + "' nm 'replaced' ");
-  on_a_copy(state, [&](const clsFileReadWrite& store, String& name) {
+  on_a_copy(state, flush, [&](const clsFileReadWrite& store, String& name) {
     store.WriteEntity(name, text(kHalfType), id, entity);
   });
 }
 
-void write_entity_appending(benchmark::State& state) {
+void write_entity_appending(benchmark::State& state, Flush flush) {
   int number = 0;
-  on_a_copy(state, [&](const clsFileReadWrite& store, String& name) {
+  on_a_copy(state, flush, [&](const clsFileReadWrite& store, String& name) {
     const std::string id = "new" + std::to_string(++number);
     store.WriteEntity(name, text(kHalfType), text(id), text("id '" + id + "' nm 'added'"));
   });
 }
 
-void delete_entity(benchmark::State& state) {
+void delete_entity(benchmark::State& state, Flush flush) {
   std::size_t last = file_of(state).entities;
-  on_a_copy(state, [&](const clsFileReadWrite& store, String& name) {
+  on_a_copy(state, flush, [&](const clsFileReadWrite& store, String& name) {
     store.DeleteEntity(name, text(entity_type(last)), text(entity_id(last)));
     --last;
   });
@@ -96,9 +107,22 @@ void write_entities_from_collection(benchmark::State& state) {
   });
 }
 
-BENCHMARK(write_entity_replacing)->Name("WriteEntity_replace")->Apply(at_all_sizes);
-BENCHMARK(write_entity_appending)->Name("WriteEntity_append")->Apply(at_all_sizes);
-BENCHMARK(delete_entity)->Name("DeleteEntity")->Apply(at_all_sizes);
+BENCHMARK_CAPTURE(write_entity_replacing, flushed, Flush::yes)
+    ->Name("WriteEntity_replace")
+    ->Apply(at_all_sizes);
+BENCHMARK_CAPTURE(write_entity_replacing, unflushed, Flush::no)
+    ->Name("WriteEntity_replace_unflushed")
+    ->Apply(at_all_sizes);
+BENCHMARK_CAPTURE(write_entity_appending, flushed, Flush::yes)
+    ->Name("WriteEntity_append")
+    ->Apply(at_all_sizes);
+BENCHMARK_CAPTURE(write_entity_appending, unflushed, Flush::no)
+    ->Name("WriteEntity_append_unflushed")
+    ->Apply(at_all_sizes);
+BENCHMARK_CAPTURE(delete_entity, flushed, Flush::yes)->Name("DeleteEntity")->Apply(at_all_sizes);
+BENCHMARK_CAPTURE(delete_entity, unflushed, Flush::no)
+    ->Name("DeleteEntity_unflushed")
+    ->Apply(at_all_sizes);
 BENCHMARK(delete_entities_from_collection)
     ->Name("DeleteEntitiesFromCollection")
     ->Apply(at_all_sizes);
