@@ -31,7 +31,7 @@ OutputFile& NumberedFile::output() {
 
 void FileNumbers::open(std::int16_t number, std::u16string_view name, FileMode mode) {
   const std::lock_guard lock(mutex_);
-  if (number < 1 || files_.count(number) != 0) throw_bad_number(number);
+  if (number < 1 || files_.contains(number)) throw_bad_number(number);
   files_.emplace(number, std::make_shared<NumberedFile>(name, mode));
 }
 

@@ -5,7 +5,7 @@
 namespace kw::sort {
 
 std::int32_t* TextPlaces::ranks() const noexcept {
-  std::int32_t* const ranks = new (spare()) std::int32_t[count_];
+  auto* const ranks = new (spare()) std::int32_t[count_];
   std::int32_t rank = 0;
   for (std::size_t place = 0; place < count_; ++place) {
     const std::uint32_t position = positions()[place];

@@ -11,7 +11,7 @@ ClosingWord::ClosingWord(std::u16string_view opening) : size_(opening.size()) {
 }
 
 void ClosingWord::follow(std::string_view opening) {
-  if (opening.size() >= 1 && opening.size() <= 8) {
+  if (!opening.empty() && opening.size() <= 8) {
     const std::uint64_t bits = load_up_to_8(opening.data(), opening.size());
     if (all_ascii(bits)) return follow_bits(lower_ascii(bits), opening.size());
   }
