@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "kwutils/error.h"
+#include "kwutils/variant.h"
 #include "platform/windows/system.h"
 #include "windows/built_library.h"
 
@@ -46,6 +47,28 @@ TEST(BuiltLibrary, MayBeUnloadedWhenNothingIsHeld) {
   EXPECT_EQ(can_unload()(), status::kFalse);
   factory->LockServer(0);
   factory->Release();
+  EXPECT_EQ(can_unload()(), status::kOk);
+}
+
+// A client may let go of everything in any order.
+TEST(BuiltLibrary, StaysAsLongAsACollectionOrItsWalkIsHeld) {
+  Object parser = built_object("clsParse");
+  Variant items;
+  Variant reference;
+  reference.address()->vt = kVtByRef | kVtVariant;
+  reference.address()->pvarVal = items.address();
+  const Variant text(u"A a b a"), token(u"a");
+  parser.call(u"ParseTokenListIntoColl", {&text, &token, &reference});
+  parser = Object();
+  EXPECT_EQ(can_unload()(), status::kFalse);
+  Object collection = items.to_object();
+  items = Variant();
+  IUnknown* walk = nullptr;
+  constexpr std::size_t kNewEnum = 11;
+  ASSERT_EQ(call_slot(collection, kNewEnum, &walk), status::kOk);
+  collection = Object();
+  EXPECT_EQ(can_unload()(), status::kFalse);
+  walk->Release();
   EXPECT_EQ(can_unload()(), status::kOk);
 }
 

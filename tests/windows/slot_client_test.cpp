@@ -5,6 +5,7 @@
 #include <thread>
 
 #include "kwutils/array.h"
+#include "kwutils/error.h"
 #include "kwutils/string.h"
 #include "kwutils/variant.h"
 #include "platform/windows/system.h"
@@ -120,6 +121,30 @@ TEST(SlotClient, ManyCallsLeaveNothingBehind) {
   const std::size_t before = blocks_in_use();
   ASSERT_GT(before, 0u);
   for (int i = 0; i < 100000; ++i) make_and_use_an_object();
+  EXPECT_LT(blocks_in_use(), before + 1000);
+}
+
+// Late-bound, as a script does it: an array and a collection made anew, and an error.
+void use_script_variables() {
+  const Object parser = built_object("clsParse");
+  Variant fields, items, reference_to_fields, reference_to_items;
+  for (auto [variable, reference] :
+       {std::pair{&fields, &reference_to_fields}, std::pair{&items, &reference_to_items}}) {
+    reference->address()->vt = kVtByRef | kVtVariant;
+    reference->address()->pvarVal = variable->address();
+  }
+  const Variant text(u"X a b x"), blank(u" "), token(u"x"), zero(std::int32_t{0});
+  parser.call(u"ParseFields", {&text, &blank, &reference_to_fields});
+  parser.call(u"ParseSubEntitiesIntoColl", {&text, &token, &reference_to_items});
+  EXPECT_THROW(parser.call(u"ParseString", {&text, &blank, &zero}), Error);
+  reference_to_fields.release();
+  reference_to_items.release();
+}
+
+TEST(SlotClient, ManyLateBoundCallsLeaveNothingBehind) {
+  for (int i = 0; i < 1000; ++i) use_script_variables();
+  const std::size_t before = blocks_in_use();
+  for (int i = 0; i < 33334; ++i) use_script_variables();
   EXPECT_LT(blocks_in_use(), before + 1000);
 }
 

@@ -1,0 +1,73 @@
+// What it costs a search that the host's messages are looked after. The search and the system's
+// pump are those of the library; only the question whether a host wants any turn is answered here.
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <chrono>
+#include <cstdio>
+#include <string>
+
+#include "kwutils/clsFileReadWrite.h"
+#include "platform/temporary_folder.h"
+
+// The functions under test, under other names: this program answers for them.
+#define process_events system_process_events
+#define events_may_wait system_events_may_wait
+#include "platform/windows/events.cpp"
+#undef process_events
+#undef events_may_wait
+
+namespace kw::platform {
+namespace {
+bool g_pumps = true;
+}
+
+void process_events() {
+  if (g_pumps) system_process_events();
+}
+bool events_may_wait() noexcept { return g_pumps && system_events_may_wait(); }
+
+}  // namespace kw::platform
+
+namespace kw::testing {
+namespace {
+
+using Clock = std::chrono::steady_clock;
+
+constexpr int kRecords = 2000000;
+
+class SearchCost : public ::testing::Test {
+ protected:
+  SearchCost() {
+    std::string records;
+    for (int i = 0; i < kRecords; ++i) records += "LINK id '" + std::to_string(i) + "' link\r\n";
+    folder_.write("long.ent", records);
+  }
+  // Seconds that a search takes which finds nothing.
+  double search(bool pumps) {
+    platform::g_pumps = pumps;
+    Collection ids, names;
+    String file(folder_.name("long.ent")), token(u"NODE"), id(u"id"), name(u"nm"), none;
+    const Boolean yes(true), no(false);
+    const auto start = Clock::now();
+    clsFileReadWrite().List2EntitieswithSearch(file, token, id, none, ids, name, names, yes, no);
+    return std::chrono::duration<double>(Clock::now() - start).count();
+  }
+  TemporaryFolder folder_;
+};
+
+TEST_F(SearchCost, IsAtMostTwiceThatWithoutThePump) {
+  search(false);  // the file is in the system's memory from here on
+  double with = 1e9, without = 1e9;
+  for (int i = 0; i < 5; ++i) {
+    without = std::min(without, search(false));
+    with = std::min(with, search(true));
+  }
+  RecordProperty("ratio", std::to_string(with / without));
+  std::printf("%d records: %.0f ms, %.0f ms without the pump\n", kRecords, with * 1e3,
+              without * 1e3);
+  EXPECT_LT(with, 2 * without);
+}
+
+}  // namespace
+}  // namespace kw::testing
