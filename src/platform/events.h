@@ -7,7 +7,8 @@ namespace kw::platform {
 // measurable where the host has set no function.
 void process_events();
 
-// False where process_events() would do nothing: who reads many records may then take them at once.
-bool events_may_wait() noexcept;
+// Whether the host has set a function for that, and so can tell how often it is asked. The system's
+// own queue is as well looked after now and then.
+bool host_wants_turns() noexcept;
 
 }  // namespace kw::platform

@@ -12,10 +12,10 @@
 
 // The functions under test, under other names: this program answers for them.
 #define process_events system_process_events
-#define events_may_wait system_events_may_wait
+#define host_wants_turns system_host_wants_turns
 #include "platform/windows/events.cpp"
 #undef process_events
-#undef events_may_wait
+#undef host_wants_turns
 
 namespace kw::platform {
 namespace {
@@ -25,7 +25,7 @@ bool g_pumps = true;
 void process_events() {
   if (g_pumps) system_process_events();
 }
-bool events_may_wait() noexcept { return g_pumps && system_events_may_wait(); }
+bool host_wants_turns() noexcept { return g_pumps && system_host_wants_turns(); }
 
 }  // namespace kw::platform
 
@@ -55,6 +55,21 @@ class SearchCost : public ::testing::Test {
   }
   TemporaryFolder folder_;
 };
+
+int g_handled = 0;
+void CALLBACK count_timer(HWND, UINT, UINT_PTR, DWORD) { ++g_handled; }
+
+TEST_F(SearchCost, MessagesAreHandledMeanwhile) {
+  MSG message;
+  PeekMessageW(&message, nullptr, 0, 0, PM_NOREMOVE);  // makes the thread's queue
+  // A message that its own callback handles needs no window.
+  PostThreadMessageW(GetCurrentThreadId(), WM_TIMER, 0, reinterpret_cast<LPARAM>(&count_timer));
+  Sleep(20);
+  search(false);
+  EXPECT_EQ(g_handled, 0);
+  search(true);
+  EXPECT_EQ(g_handled, 1);
+}
 
 TEST_F(SearchCost, IsAtMostTwiceThatWithoutThePump) {
   search(false);  // the file is in the system's memory from here on

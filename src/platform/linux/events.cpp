@@ -9,6 +9,6 @@ void process_events() {
   if (host.process_events != nullptr) host.process_events(host.context);
 }
 
-bool events_may_wait() noexcept { return host_functions().process_events != nullptr; }
+bool host_wants_turns() noexcept { return host_functions().process_events != nullptr; }
 
 }  // namespace kw::platform

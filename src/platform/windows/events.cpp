@@ -44,6 +44,6 @@ void process_events() {
   if (worth_asking() && anything_waits()) pump();
 }
 
-bool events_may_wait() noexcept { return true; }
+bool host_wants_turns() noexcept { return host_functions().process_events != nullptr; }
 
 }  // namespace kw::platform
