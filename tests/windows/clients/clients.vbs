@@ -34,6 +34,26 @@ Expect "number of fields", count, CLng(3)
 Expect "bounds of the fields", UBound(fields), CLng(3)
 Expect "second field", fields(2), "b"
 
+' A number variable is counted on, in its own kind; so is one of another kind of number.
+Dim position
+position = CLng(2)
+fields = Array("", "", "", "")
+Expect "tokens read", parser.ParseTokenArray("x y", position, fields, count), CLng(0)
+Expect "first token", fields(1), "x"
+Expect "number set", count, CLng(2)
+count = CInt(0)
+parser.ParseTokenArray "x y", position, fields, count
+Expect "number set in its kind", count, CInt(2)
+count = Empty
+parser.ParseTokenArray "x y", position, fields, count
+Expect "number set anew", count, CLng(2)
+
+' An array of fixed bounds is filled where it is.
+Dim fixed(3)
+parser.ParseTokenArray "x y", position, fixed, count
+Expect "fixed array filled", fixed(1) & fixed(2), "xy"
+Expect "bounds of a fixed array", UBound(fixed), CLng(3)
+
 ' A collection variable is replaced by a collection of the library's own.
 Set items = Nothing
 text = "LIST one two three list"
@@ -64,6 +84,12 @@ Expect "numbers left as they were", numbers(0), 2.5
 names = Array("pear", "Apple", "fig")
 sorter.sQSort names
 Expect "names sorted", names(0) & names(1) & names(2), "Applefigpear"
+
+' Elements of arrays and flags are variables like any other.
+Dim pair(1)
+pair(0) = "left right"
+Expect "item of an element", parser.ParseList(pair(0)), "left"
+Expect "element consumed", pair(0), "right"
 
 ' Errors carry number, source and description.
 On Error Resume Next
