@@ -70,7 +70,9 @@ class BlockState {
 
   // The word and its length; only inside a block.
   std::uint64_t closing() const noexcept { return closing_; }
-  std::size_t closing_size() const noexcept { return (64 - unused_bits_) / 8; }
+  std::size_t closing_size() const noexcept {
+    return static_cast<std::size_t>((64 - unused_bits_) / 8);
+  }
 
  private:
   std::uint64_t closing_ = 0;
