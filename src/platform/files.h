@@ -89,6 +89,10 @@ class FileService {
   virtual bool same_file(std::u16string_view first, std::u16string_view second) {
     return first == second && exists(first);
   }
+  // Whether a file of that name is there that no replacement holds at this moment: what a killed
+  // writer left behind, or somebody's own. On Windows one that any program holds for writing counts
+  // as held.
+  virtual bool lies_idle(std::u16string_view name) { return exists(name); }
   // Throws what reading the attributes of that file or directory would raise.
   virtual void check_attributes(std::u16string_view name) = 0;
   // Deletes a file.

@@ -173,6 +173,14 @@ TEST_F(ReplacementFileTest, AMissingFolderIsReported) {
             76);
 }
 
+TEST_F(ReplacementFileTest, ItsTemporaryFileIsToldFromOneThatLiesIdle) {
+  EXPECT_FALSE(files().lies_idle(folder_.name("a.tmp")));
+  const auto held = start();
+  EXPECT_FALSE(files().lies_idle(folder_.name("a.tmp")));
+  folder_.write("b.tmp", "somebody's own");
+  EXPECT_TRUE(files().lies_idle(folder_.name("b.tmp")));
+}
+
 TEST_F(ReplacementFileTest, ASecondWriterIsTurnedAwayAtOnce) {
   const auto first = start();
   first->write("first");

@@ -53,6 +53,12 @@ class Delete(ToolCase):
         self.ask("delete", "plant.ent", "NODE", "B1", "--backup")
         self.assertEqual(self.read("plant.ent~"), PLANT)
 
+    def test_keeps_a_backup_of_what_was_there_before_all_of_it(self):
+        twins = "NODE id '1' nm 'a' node\r\nNODE id '1' nm 'b' node\r\n"
+        self.write("twins.ent", twins)
+        self.ask("delete", "twins.ent", "NODE", "1", "--backup")
+        self.assertEqual(self.read("twins.ent~"), twins)
+
     def test_makes_no_missing_file(self):
         self.refuse("delete", "none.ent", "NODE", "1", code=FAILED,
                     message="cannot delete NODE in 'none.ent': File not found")

@@ -129,6 +129,23 @@ class Rewriting(ToolCase):
         self.ask("put", "plant.ent", "NODE", "B1", "nm=New", "--backup=.old")
         self.assertEqual(self.read("plant.ent.old"), before)
 
+    def test_gives_a_backup_the_permissions_of_the_file(self):
+        os.chmod(self.folder / "plant.ent", 0o600)
+        self.ask("put", "--backup", "plant.ent", "NODE", "B1", "nm=Well")
+        self.assertEqual((self.folder / "plant.ent~").stat().st_mode & 0o777, 0o600)
+
+    def test_refuses_a_backup_that_is_the_file_itself(self):
+        os.symlink("plant.ent", self.folder / "plant.ent~")
+        self.refuse("put", "--backup", "plant.ent", "NODE", "B1", "nm=Well", code=FAILED,
+                    message="cannot rewrite 'plant.ent': its backup 'plant.ent~' is the file itself")
+        self.assertEqual(self.read("plant.ent"), PLANT)
+
+    def test_changes_nothing_without_the_backup(self):
+        self.refuse("put", "--backup=/x", "plant.ent", "NODE", "B1", "nm=Well", code=FAILED,
+                    message="cannot rewrite 'plant.ent': Path not found: 'plant.ent/x' (Not a directory)")
+        self.assertEqual(self.read("plant.ent"), PLANT)
+        self.assertEqual(os.listdir(self.folder), ["plant.ent"])
+
     def test_makes_no_backup_of_a_new_file(self):
         self.ask("put", "--backup", "fresh.ent", "NODE", "1", "nm=a")
         self.assertEqual(sorted(os.listdir(self.folder)), ["fresh.ent", "plant.ent"])
@@ -143,6 +160,11 @@ class Rewriting(ToolCase):
         self.assertEqual(self.read("plantfile"), PLANT)
         self.ask("put", "plantfile", "NODE", "1", "nm=x", "--force")
         self.assertFalse((self.folder / "tmp").exists())
+
+    def test_refuses_a_time_that_is_none(self):
+        for seconds in ("nan", "-1", "1e300", "inf", "x"):
+            self.refuse("put", "plant.ent", "NODE", "B1", "nm=Well", "--wait", seconds, code=USAGE,
+                        message=f"--wait: '{seconds}' is no number of seconds")
 
     def test_lets_many_processes_write_at_once(self):
         quick_to_start = NATIVE and "KW_SANITIZED" not in os.environ

@@ -69,6 +69,14 @@ TEST_F(WindowsReplacement, TurnsASecondWriterAwayAtOnce) {
   EXPECT_EQ(folder_.read("a.ent"), "first");
 }
 
+TEST_F(WindowsReplacement, HoldsATemporaryFileThatCanBeToldFromOneThatLiesIdle) {
+  EXPECT_FALSE(files().lies_idle(folder_.name("a.tmp")));
+  const auto held = start();
+  EXPECT_FALSE(files().lies_idle(folder_.name("a.tmp")));
+  folder_.write("b.tmp", "somebody's own");
+  EXPECT_TRUE(files().lies_idle(folder_.name("b.tmp")));
+}
+
 // Newer systems replace a file that a reader has open; older ones, and Wine, refuse it.
 TEST_F(WindowsReplacement, LeavesAReaderTheOldContent) {
   folder_.write("a.ent", "old");

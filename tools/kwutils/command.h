@@ -30,6 +30,9 @@ Command<Options> add_command(CLI::App& app, Session& session, const char* name, 
   return {*line, *options};
 }
 
+// Adds the name of a group of commands, which are added to it in their turn.
+CLI::App& add_group(CLI::App& app, const char* name, const char* help, const char* example);
+
 // The positional arguments FILE and TYPE.
 void add_file(CLI::App& line, EntityFile& file);
 
@@ -41,11 +44,15 @@ void add_export(CLI::App& app, Session& session);
 void add_get(CLI::App& app, Session& session);
 void add_ids(CLI::App& app, Session& session);
 void add_import(CLI::App& app, Session& session);
+void add_ini(CLI::App& app, Session& session);
 void add_list(CLI::App& app, Session& session);
 void add_new_id(CLI::App& app, Session& session);
+void add_path(CLI::App& app, Session& session);
 void add_put(CLI::App& app, Session& session);
 void add_registration(CLI::App& app, Session& session);
 void add_search(CLI::App& app, Session& session);
+void add_sort(CLI::App& app, Session& session);
 void add_table(CLI::App& app, Session& session);
+void add_user(CLI::App& app, Session& session);
 
 }  // namespace kw::tool

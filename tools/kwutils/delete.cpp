@@ -81,7 +81,7 @@ ExitCode run_delete(Session& session, const DeleteOptions& options) {
   check_type(options.file.type);
   if (options.ids.empty() == !options.all)
     fail_usage("name the identifiers, or give --all for every entity of the type");
-  Rewriting rewriting(session, options.rewrite, options.file.path);
+  Rewriting rewriting = rewrite_entities(session, options.rewrite, options.file.path);
   const Deleted deleted = working_on("cannot delete " + options.file.type, options.file.path, [&] {
     platform::files().open_input(options.file.name());  // a missing file is not to be made
     return options.all ? delete_all(options) : delete_ids(options);
@@ -109,7 +109,7 @@ void add_delete(CLI::App& app, Session& session) {
   add_file(line, options.file);
   line.add_option("ID", options.ids, "Identifiers of the entities, in any case");
   line.add_flag("--all", options.all, "Remove every entity of the type");
-  add_rewrite_options(line, options.rewrite);
+  add_entity_rewrite_options(line, options.rewrite);
 }
 
 }  // namespace kw::tool

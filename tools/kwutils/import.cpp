@@ -88,7 +88,7 @@ ExitCode run_import(Session& session, const ImportOptions& options) {
   ImportedRows rows = make_entities(table, options.columns, options.transliterate);
   Stored stored;
   const bool refused = options.strict && !rows.reported.empty();
-  Rewriting rewriting(session, options.rewrite, options.file.path);
+  Rewriting rewriting = rewrite_entities(session, options.rewrite, options.file.path);
   if (!refused) {
     stored = working_on("cannot import " + options.file.type, options.file.path,
                         [&] { return store_entities(rewriting, options.file, rows.entities); });
@@ -127,7 +127,7 @@ void add_import(CLI::App& app, Session& session) {
   line.add_flag("--transliterate", options.transliterate,
                 "Store the nearest spelling of what cannot be stored");
   line.add_flag("--strict", options.strict, "Store nothing unless every row can be stored");
-  add_rewrite_options(line, options.rewrite);
+  add_entity_rewrite_options(line, options.rewrite);
 }
 
 }  // namespace kw::tool

@@ -1,5 +1,3 @@
-#include <cstdio>
-
 #include "base/compare_text.h"
 #include "base/unicode.h"
 #include "tool/assignment.h"
@@ -8,6 +6,7 @@
 #include "tool/item_line.h"
 #include "tool/json_writer.h"
 #include "tool/notation.h"
+#include "tool/read_file.h"
 #include "tool/rewriting.h"
 #include "tool/store_entities.h"
 
@@ -40,11 +39,9 @@ std::u16string written_items(const PutOptions& options) {
   return std::move(line.text);
 }
 
-std::string standard_input() {
-  std::string text;
-  char block[4096];
-  while (const std::size_t size = std::fread(block, 1, sizeof block, stdin))
-    text.append(block, size);
+// A text that was typed ends with a line end that is no part of it.
+std::string typed_text() {
+  std::string text = read_standard_input();
   while (text.ends_with('\n') || text.ends_with('\r')) text.pop_back();
   return text;
 }
@@ -60,7 +57,7 @@ std::u16string with_line_ends(std::u16string_view text) {
 }
 
 std::u16string given_text(const PutOptions& options) {
-  const std::string given = options.text == "-" ? standard_input() : options.text;
+  const std::string given = options.text == "-" ? typed_text() : options.text;
   std::u16string text = with_line_ends(from_utf8(given));
   const std::string lacking = page_fault(text);
   if (!lacking.empty()) fail_usage("cannot store the text: " + lacking);
@@ -95,7 +92,7 @@ ExitCode run_put(Session& session, const PutOptions& options) {
   const bool items = options.text.empty();
   const NewEntity entity = {from_utf8(options.id),
                             items ? written_items(options) : given_text(options), items};
-  Rewriting rewriting(session, options.rewrite, options.file.path);
+  Rewriting rewriting = rewrite_entities(session, options.rewrite, options.file.path);
   const Stored stored =
       working_on("cannot put " + options.file.type + " " + options.id, options.file.path,
                  [&] { return store_entities(rewriting, options.file, {entity}); });
@@ -123,7 +120,7 @@ void add_put(CLI::App& app, Session& session) {
   line.add_option("ITEM", options.items, "Its other items")->type_name("KEYWORD=VALUE");
   line.add_option("--text", options.text,
                   "Its text as it shall stand in the file; -: standard input");
-  add_rewrite_options(line, options.rewrite);
+  add_entity_rewrite_options(line, options.rewrite);
 }
 
 }  // namespace kw::tool

@@ -29,9 +29,8 @@ Collection wanted(const std::vector<NewEntity>& entities, const Collection& old,
 void write_all(Rewriting& rewriting, const EntityFile& file, Collection& texts) {
   String name = file.name();
   if (clsFileReadWrite().WriteEntitiesFromCollection(name, file.token(), texts)) return;
-  const auto& error = rewriting.last_error();
-  const std::string why = error ? reason(*error, file.path) : "its content cannot be handled";
-  fail("cannot rewrite " + in_quotes(file.path) + ": " + why);
+  fail("cannot rewrite " + in_quotes(file.path) + ": " +
+       rewriting.failure("its content cannot be handled"));
 }
 
 bool is_read_back(const NewEntity& entity, const String& found) {

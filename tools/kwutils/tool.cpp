@@ -30,6 +30,10 @@ void add_commands(CLI::App& app, Session& session) {
   add_check(app, session);
   add_import(app, session);
   add_export(app, session);
+  add_ini(app, session);
+  add_path(app, session);
+  add_sort(app, session);
+  add_user(app, session);
   add_call(app, session);
   add_registration(app, session);
 }

@@ -1,6 +1,10 @@
 #include "platform/files.h"
 
+#include <fcntl.h>
+#include <sys/file.h>
+
 #include "kwutils/error.h"
+#include "platform/linux/descriptor.h"
 #include "platform/linux/file_errors.h"
 #include "platform/linux/file_name.h"
 #include "platform/linux/replacement.h"
@@ -30,6 +34,15 @@ class SystemFiles : public FileService {
     struct stat left, right;
     return look_up(first, left) && look_up(second, right) && left.st_dev == right.st_dev &&
            left.st_ino == right.st_ino;
+  }
+
+  bool lies_idle(std::u16string_view name) override {
+    const FileName file = native_name(name);
+    const Descriptor opened = open_descriptor(file.path, O_RDONLY | O_NOFOLLOW | O_NONBLOCK);
+    if (!opened) return exists(name);
+    // A shared lock: it is let go at once, and nobody who asks the same is misled.
+    return restarted([&] { return system_calls().flock(opened.get(), LOCK_SH | LOCK_NB); }) == 0 &&
+           exists(name);
   }
 
   void check_attributes(std::u16string_view name) override {

@@ -35,6 +35,14 @@ class SystemFiles : public FileService {
     }
   }
 
+  bool lies_idle(std::u16string_view name) override {
+    if (!exists(name)) return false;
+    const Handle file(CreateFileW(wide(native_name(name).path), GENERIC_READ,
+                                  FILE_SHARE_READ | FILE_SHARE_DELETE, nullptr, OPEN_EXISTING,
+                                  FILE_ATTRIBUTE_NORMAL, nullptr));
+    return file || GetLastError() != ERROR_SHARING_VIOLATION;
+  }
+
   void check_attributes(std::u16string_view name) override {
     const FileName file = native_name(name);
     if (GetFileAttributesW(wide(file.path)) == INVALID_FILE_ATTRIBUTES)
