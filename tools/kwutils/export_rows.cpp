@@ -15,6 +15,9 @@ namespace kw::tool {
 namespace {
 
 using View = std::u16string_view;
+using Texts = std::vector<std::u16string>;
+
+using Rows = std::vector<std::vector<Item>>;
 
 // The columns as they come to light. id and nm come first, wherever they stand.
 class Columns {
@@ -33,8 +36,8 @@ class Columns {
         order_.precede(numbers[earlier], numbers[later]);
   }
 
-  std::vector<std::u16string> ordered() const {
-    std::vector<std::u16string> columns;
+  Texts ordered() const {
+    Texts columns;
     for (const std::size_t number : order_.order(keywords_.size()))
       if (number != kName || has_name_) columns.push_back(keywords_[number]);
     return columns;
@@ -49,11 +52,44 @@ class Columns {
     return place->second;
   }
 
-  std::vector<std::u16string> keywords_;
+  Texts keywords_;
   std::unordered_map<std::u16string, std::size_t> numbers_;
   OrderMerger order_;
   bool has_name_ = false;
 };
+
+Texts columns_of(const Rows& rows) {
+  Columns columns;
+  for (const std::vector<Item>& row : rows) columns.add(row);
+  return columns.ordered();
+}
+
+// The rows as an import of a table with these columns writes them.
+Rows written(Rows rows, const Texts& columns) {
+  std::unordered_map<View, std::size_t> places;
+  for (const std::u16string& column : columns) places.emplace(column, places.size());
+  for (std::vector<Item>& row : rows) {
+    std::stable_sort(row.begin(), row.end(), [&](const Item& left, const Item& right) {
+      return places.at(left.keyword) < places.at(right.keyword);
+    });
+    ItemLine line = write_items(row);
+    if (line.fault.empty()) row = std::move(line.items);
+  }
+  return rows;
+}
+
+// Columns such that what is exported, imported and exported again has the same ones. What stands
+// in the file does not always say which item came first, so the columns of the imported rows may
+// be other ones: they are followed until they repeat. Of those that do, the first by their text
+// are chosen, for they lead to the same ones again.
+Texts stable_columns(const Rows& rows) {
+  std::vector<Texts> seen;
+  for (Texts columns = columns_of(rows);; columns = columns_of(written(rows, columns))) {
+    const auto before = std::find(seen.begin(), seen.end(), columns);
+    if (before != seen.end()) return *std::min_element(before, seen.end());
+    seen.push_back(columns);
+  }
+}
 
 // What keeps the items from being imported again, or "".
 std::string row_fault(const std::vector<Item>& items) {
@@ -76,12 +112,11 @@ class Exporter {
     if (const std::string fault = row_fault(items); !fault.empty()) return leave_out(items, fault);
     if (!ids_.insert(upper(items.front().value)).second)
       return leave_out(items, "an earlier one has the same identifier");
-    columns_.add(items);
     result_.rows.push_back(std::move(items));
   }
 
   ExportedRows finish() {
-    result_.columns = columns_.ordered();
+    result_.columns = stable_columns(result_.rows);
     remark(with_lines_, "further lines or a table");
     remark(with_other_words_, "words that no look-up finds as an item");
     return std::move(result_);
@@ -115,7 +150,6 @@ class Exporter {
   }
 
   const std::string& type_;
-  Columns columns_;
   std::unordered_set<std::u16string> ids_;
   std::size_t number_ = 0;
   std::size_t with_lines_ = 0;

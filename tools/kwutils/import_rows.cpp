@@ -90,7 +90,7 @@ std::string id_fault(const std::vector<Item>& items) {
 
 ItemLine line_of(const std::vector<Item>& items) {
   std::string fault = id_fault(items);
-  return fault.empty() ? write_items(items) : ItemLine{{}, std::move(fault)};
+  return fault.empty() ? write_items(items) : ItemLine{{}, {}, std::move(fault)};
 }
 
 // Puts the nearest spelling in the place of each value that cannot be stored, then, until the line

@@ -84,7 +84,10 @@ bool all_read_back(View line, const std::vector<Item>& items) {
 
 ItemLine joined(const std::vector<Piece>& pieces) {
   ItemLine line;
-  for (const Piece& piece : pieces) line.text += piece.text;
+  for (const Piece& piece : pieces) {
+    line.text += piece.text;
+    line.items.push_back(*piece.item);
+  }
   if (!line.text.empty()) line.text.pop_back();
   return line;
 }
@@ -98,19 +101,20 @@ std::u16string read_item(View text, View keyword) {
 
 ItemLine write_items(const std::vector<Item>& items) {
   std::vector<Piece> left;
-  if (std::string fault = cut_pieces(items, left); !fault.empty()) return {{}, std::move(fault)};
+  if (std::string fault = cut_pieces(items, left); !fault.empty())
+    return {{}, {}, std::move(fault)};
   ItemLine line = joined(left);
   if (all_read_back(line.text, items)) return line;
 
   std::vector<Piece> ordered;
   while (!left.empty()) {
     const std::size_t next = next_piece(left);
-    if (next == left.size()) return {{}, hiding_fault(left)};
+    if (next == left.size()) return {{}, {}, hiding_fault(left)};
     ordered.push_back(std::move(left[next]));
     left.erase(left.begin() + static_cast<std::ptrdiff_t>(next));
   }
   line = joined(ordered);
-  if (!all_read_back(line.text, items)) return {{}, hiding_fault(ordered)};
+  if (!all_read_back(line.text, items)) return {{}, {}, hiding_fault(ordered)};
   return line;
 }
 
