@@ -75,13 +75,13 @@ std::string csv_of(const Texts& texts) {
 
 TEST(RoundTrip, GivesImportedEntitiesToTheLetter) {
   std::size_t reordered = 0;
-  reference::for_random_inputs(21, [&](reference::Random& random) {
+  const auto rounds = reference::for_random_inputs(21, [&](reference::Random& random) {
     const Texts texts = texts_of(random_table(random));
     for (const std::u16string& text : texts)
       if (text.find(u"nm") > text.find(u" a ")) ++reordered;
     EXPECT_EQ(texts_of(read_csv(csv_of(texts), "t")), texts);
   });
-  EXPECT_GT(reordered, 100u);
+  EXPECT_GT(reordered * 20, rounds);
 }
 
 TEST(RoundTrip, GivesTheSameRowsOfAnyEntities) {
@@ -89,7 +89,7 @@ TEST(RoundTrip, GivesTheSameRowsOfAnyEntities) {
       u"id ", u"nm ",   u"a ",    u"b ", u"'1' ", u"'x y' ", u"\"p'q\" ", u"5 ",
       u"z' ", u"TBLE ", u"tble ", u"' ", u"\" ",  u", ",     u"id '7' ",  u"\r\n"};
   std::size_t rows = 0;
-  reference::for_random_inputs(22, [&](reference::Random& random) {
+  const auto rounds = reference::for_random_inputs(22, [&](reference::Random& random) {
     Texts texts;
     for (int i = 0; i < 6; ++i) texts.push_back(random_text(random, words, 9));
     const std::string exported = csv_of(texts);
@@ -99,7 +99,7 @@ TEST(RoundTrip, GivesTheSameRowsOfAnyEntities) {
     const std::string again = csv_of(texts_of(table));
     EXPECT_EQ(again, exported);
   });
-  EXPECT_GT(rows, 1000u);
+  EXPECT_GT(rows * 3, rounds);
 }
 
 }  // namespace

@@ -128,7 +128,7 @@ class CommandLine(ToolCase):
         self.assertIn("0 found or done, 1 not found, 2 wrong usage, 3 ", self.ask("--help").out)
 
     def test_needs_a_command(self):
-        self.refuse(code=USAGE, message="A subcommand is required")
+        self.refuse(code=USAGE, message="no command is given; see 'kwutils --help'")
 
     def test_refuses_an_unknown_command(self):
         self.refuse("gett", code=USAGE, message="there is no command 'gett'; see 'kwutils --help'")

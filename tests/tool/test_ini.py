@@ -86,6 +86,14 @@ class Get(IniCase):
                     message="cannot use 'a?.ini': '*' and '?' cannot stand in its name")
 
 
+class Group(IniCase):
+    def test_names_the_command_that_is_wrong(self):
+        self.refuse("ini", code=USAGE, message="no command is given; see 'kwutils ini --help'")
+        self.refuse("ini", "show", code=USAGE, message="there is no command 'show'; see 'kwutils ini --help'")
+        self.refuse("ini", "get", "plant.ini", "Pump", code=USAGE,
+                    message="KEY is required; see 'kwutils ini get --help'")
+
+
 class Set(IniCase):
     def value(self, section, key, name="plant.ini"):
         return self.ask("ini", "get", name, section, key).out[:-1]

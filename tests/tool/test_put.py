@@ -164,7 +164,7 @@ class Rewriting(ToolCase):
     def test_refuses_a_time_that_is_none(self):
         for seconds in ("nan", "-1", "1e300", "inf", "x"):
             self.refuse("put", "plant.ent", "NODE", "B1", "nm=Well", "--wait", seconds, code=USAGE,
-                        message=f"--wait: '{seconds}' is no number of seconds")
+                        message=f"--wait: '{seconds}' is no number of seconds; see 'kwutils put --help'")
 
     def test_lets_many_processes_write_at_once(self):
         quick_to_start = NATIVE and "KW_SANITIZED" not in os.environ

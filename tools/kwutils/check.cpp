@@ -66,7 +66,7 @@ ExitCode run_check(Session& session, const CheckOptions& options) {
   Findings findings;
   const SourceText source = cut_source(content, findings);
   const std::vector<SourceBlock> blocks = cut_blocks(source, findings);
-  check_entities(blocks, findings);
+  check_entities(blocks, findings, &session.progress);
   findings = sorted(std::move(findings));
   JsonWriter json(session.out);
   if (session.json) json.begin_lines();

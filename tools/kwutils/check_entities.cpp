@@ -34,12 +34,15 @@ void check_tables(const SourceBlock& block, Findings& findings) {
 
 }  // namespace
 
-void check_entities(const std::vector<SourceBlock>& blocks, Findings& findings) {
+void check_entities(const std::vector<SourceBlock>& blocks, Findings& findings,
+                    ProgressBar* progress) {
+  Steps steps(progress, "blocks", blocks.size());
   KnownIdentifiers known;
   for (const SourceBlock& block : blocks) {
     check_quotes(block, findings);
     check_tables(block, findings);
     check_identifier(block, known, findings);
+    steps.step();
   }
 }
 

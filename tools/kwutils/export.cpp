@@ -51,7 +51,7 @@ ExitCode run_export(Session& session, const ExportOptions& options) {
   working_on("cannot export " + options.file.type, options.file.path, [&] {
     clsFileReadWrite().GetEntitiesIntoColl(options.file.name(), options.file.token(), entities);
   });
-  const ExportedRows rows = make_rows(entities, options.file.type);
+  const ExportedRows rows = make_rows(entities, options.file.type, &session.progress);
   if (session.json || options.format == SourceFormat::json)
     write_json(session.out, rows);
   else

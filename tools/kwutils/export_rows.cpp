@@ -159,9 +159,13 @@ class Exporter {
 
 }  // namespace
 
-ExportedRows make_rows(const Collection& entities, const std::string& type) {
+ExportedRows make_rows(const Collection& entities, const std::string& type, ProgressBar* progress) {
   Exporter exporter(type);
-  for_each_text(entities, [&](View entity) { exporter.add(entity); });
+  Steps steps(progress, type, static_cast<std::size_t>(entities.count()));
+  for_each_text(entities, [&](View entity) {
+    exporter.add(entity);
+    steps.step();
+  });
   return exporter.finish();
 }
 

@@ -6,6 +6,7 @@
 
 #include "kwutils/collection.h"
 #include "tool/entity_store.h"
+#include "tool/progress.h"
 
 namespace kw::tool {
 
@@ -18,6 +19,7 @@ struct ExportedRows {
 // The items that look-ups find on the first line of each entity. Rows are such that importing them
 // gives the same items again, and the columns stand in an order that gives a file that an import
 // wrote byte for byte.
-ExportedRows make_rows(const Collection& entities, const std::string& type);
+ExportedRows make_rows(const Collection& entities, const std::string& type,
+                       ProgressBar* progress = nullptr);
 
 }  // namespace kw::tool

@@ -19,8 +19,9 @@ std::string reason(const Error& error, std::string_view file) {
   const bool names_the_file =
       error.text() == std::string(standard) + ": '" + std::string(file) + "'";
   std::string text(names_the_file ? standard : error.text());
-  const bool tells_more = error.number != ErrorNumber::file_not_found && error.system_code != 0;
-  if (tells_more) text += " (" + std::system_category().message(error.system_code) + ")";
+  if (error.number == ErrorNumber::file_not_found || error.system_code == 0) return text;
+  const std::string more = std::system_category().message(error.system_code);
+  if (more != standard) text += " (" + more + ")";
   return text;
 }
 

@@ -85,7 +85,8 @@ void report_conflicts(const SourceTable& table, const Stored& stored, ImportedRo
 ExitCode run_import(Session& session, const ImportOptions& options) {
   check_type(options.file.type);
   const SourceTable table = read_source(options.source, options.format);
-  ImportedRows rows = make_entities(table, options.columns, options.transliterate);
+  ImportedRows rows =
+      make_entities(table, options.columns, options.transliterate, &session.progress);
   Stored stored;
   const bool refused = options.strict && !rows.reported.empty();
   Rewriting rewriting = rewrite_entities(session, options.rewrite, options.file.path);

@@ -158,12 +158,16 @@ class Maker {
 }  // namespace
 
 ImportedRows make_entities(const SourceTable& table, const ImportColumns& columns,
-                           bool transliterate) {
+                           bool transliterate, ProgressBar* progress) {
   ImportedRows result;
   const Layout layout = layout_of(table, columns);
   result.renamed = renamed_columns(table, layout);
   Maker maker(layout, transliterate);
-  for (const SourceRow& row : table.rows) maker.make(row, result);
+  Steps steps(progress, "rows", table.rows.size());
+  for (const SourceRow& row : table.rows) {
+    maker.make(row, result);
+    steps.step();
+  }
   return result;
 }
 

@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "tool/progress.h"
 #include "tool/source_table.h"
 #include "tool/store_entities.h"
 
@@ -35,6 +36,6 @@ struct ImportedRows {
 // columns as items of their names. With `transliterate`, the nearest spelling stands for a value
 // that cannot be stored. Fails (exit status 3) where a column cannot be an item.
 ImportedRows make_entities(const SourceTable& table, const ImportColumns& columns,
-                           bool transliterate);
+                           bool transliterate, ProgressBar* progress = nullptr);
 
 }  // namespace kw::tool

@@ -26,7 +26,7 @@ void answer_change(Session& session, const IniOptions& options, const char* done
 
 [[noreturn]] void refuse_rewrite(const IniOptions& options, const Rewriting& rewriting) {
   fail("cannot rewrite " + in_quotes(options.path) + ": " +
-       rewriting.failure("it cannot be written"));
+       rewriting.failure("the file or its folder is write-protected"));
 }
 
 // Whether there is still something to remove.

@@ -20,7 +20,7 @@ std::u16string read_item(std::u16string_view text, std::u16string_view keyword);
 struct ItemLine {
   std::u16string text;      // id 'B2' nm "L'Aquila"
   std::vector<Item> items;  // as they stand in it
-  std::string fault;    // why the items cannot stand on one line (UTF-8); "" when they do
+  std::string fault;        // why the items cannot stand on one line (UTF-8); "" when they do
 };
 
 // Writes the items as one line, in their order where that reads back. A value stands in

@@ -44,14 +44,24 @@ void pause() {
   fail("cannot rewrite " + in_quotes(file) + ": " + why);
 }
 
+// Whether somebody's own file has the name. One that another writer is about to hold lies idle for
+// a moment.
+bool is_taken(std::u16string_view name) {
+  constexpr int kLooks = 20;
+  for (int look = 0; look < kLooks; ++look) {
+    if (!platform::files().lies_idle(name)) return false;
+    pause();
+  }
+  return true;
+}
+
 // What the library would refuse without a word, or do in another place.
 void check_name(const std::string& file, const RewriteOptions& options) {
   const std::u16string name = from_utf8(file);
   if (parse::trim(std::u16string_view(name)) != name) refuse(file, "its name has blanks around it");
   if (name.size() < 5)
     refuse(file, "a name of fewer than five characters gives no name for the temporary file");
-  if (store::temporary_name(name) == u"tmp" && !options.force &&
-      platform::files().lies_idle(u"tmp"))
+  if (store::temporary_name(name) == u"tmp" && !options.force && is_taken(u"tmp"))
     refuse(
         file,
         "its temporary file would be 'tmp' in the current directory, and there is a file of that "
@@ -256,7 +266,8 @@ void add_rewrite_options(CLI::App& line, RewriteOptions& options) {
   line.add_flag("--dry-run", options.dry_run, "Show what would change, as a diff; change nothing");
   line.add_option("--backup", options.backup, "Keep the old file under its name and this suffix")
       ->type_name("[=SUFFIX]");
-  line.add_option("--wait", options.wait, "How long to wait for another writer of the file")
+  line.add_option("--wait", options.wait,
+                  "How long to wait for another writer of the file; else 10")
       ->type_name("SECONDS")
       ->check(&check_seconds, "", "");
 }

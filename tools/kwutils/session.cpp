@@ -1,8 +1,17 @@
 #include "tool/session.h"
 
+#include "platform/terminal.h"
+
 namespace kw::tool {
 
+Session::Session(std::FILE* answers, std::FILE* messages)
+    : out_file(answers),
+      err_file(messages),
+      out(answers),
+      progress(platform::is_terminal(messages) ? messages : nullptr) {}
+
 void Session::say(std::string_view message) {
+  progress.clear();
   std::fflush(out_file);
   std::fprintf(err_file, "kwutils: %.*s\n", static_cast<int>(message.size()), message.data());
 }

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <exception>
+#include <optional>
 #include <sstream>
 
 #include "tool/command.h"
@@ -15,6 +16,7 @@ void add_commands(CLI::App& app, Session& session) {
   app.name("kwutils");
   app.allow_windows_style_options(false);  // "/" begins a path or a text, on every system
   app.require_subcommand(1);
+  app.set_version_flag("--version", KW_VERSION, "Show the version and exit");
   app.footer(
       "'kwutils COMMAND --help' explains a command and shows an example.\n"
       "Exit status: 0 found or done, 1 not found, 2 wrong usage, 3 a file or its content failed.");
@@ -38,19 +40,39 @@ void add_commands(CLI::App& app, Session& session) {
   add_registration(app, session);
 }
 
-// The parser only says that a command is missing.
-void check_command_name(const CLI::App& app, const std::vector<std::string>& words) {
-  if (words.empty() || words.front().empty() || words.front().front() == '-') return;
-  const auto named = [&](const CLI::App* command) { return command->check_name(words.front()); };
-  if (app.get_subcommands(named).empty())
-    fail_usage("there is no command " + in_quotes(words.front()) + "; see 'kwutils --help'");
+// The words that name a command or group of commands.
+std::string full_name(const CLI::App& command) {
+  const CLI::App* parent = command.get_parent();
+  return parent == nullptr ? command.get_name() : full_name(*parent) + " " + command.get_name();
+}
+
+[[noreturn]] void refuse(const CLI::App& command, const std::string& why) {
+  fail_usage(why + "; see '" + full_name(command) + " --help'");
+}
+
+// Follows the words that name a command. The parser only says that one is missing.
+const CLI::App& command_named(const CLI::App& app, const std::vector<std::string>& words) {
+  const CLI::App* command = &app;
+  for (const std::string& word : words) {
+    const auto named = [&](const CLI::App* part) { return part->check_name(word); };
+    if (word.starts_with("-") || command->get_subcommands({}).empty()) break;
+    const auto found = command->get_subcommands(named);
+    if (found.empty()) refuse(*command, "there is no command " + in_quotes(word));
+    command = found.front();
+  }
+  return *command;
 }
 
 void print(const std::string& text, std::FILE* to) { std::fwrite(text.data(), 1, text.size(), to); }
 
+std::string complaint_in(const std::string& text) {
+  const std::string line = text.substr(0, text.find('\n'));
+  return line == "A subcommand is required" ? "no command is given" : line;
+}
+
 // Parses, and answers a request for help.
 ExitCode parse(CLI::App& app, std::vector<std::string> words, const Session& session) {
-  check_command_name(app, words);
+  const CLI::App& command = command_named(app, words);
   std::reverse(words.begin(), words.end());  // the parser takes them from the back
   try {
     app.parse(std::move(words));
@@ -60,7 +82,7 @@ ExitCode parse(CLI::App& app, std::vector<std::string> words, const Session& ses
     std::ostringstream complaint;
     const bool asked_for = app.exit(error, answer, complaint) == 0;
     print(answer.str(), session.out_file);
-    if (!asked_for) fail_usage(complaint.str().substr(0, complaint.str().find('\n')));
+    if (!asked_for) refuse(command, complaint_in(complaint.str()));
     return ExitCode::done;
   }
 }
@@ -71,6 +93,9 @@ ExitCode run_tool(std::vector<std::string> words, std::FILE* out, std::FILE* err
   CLI::App app("Entity files and the classes of kwUtils at the command line");
   Session session(out, err);
   CommandLine line = split_command_line(std::move(words));
+  WatchedFiles files(platform::files(), session.progress);
+  std::optional<platform::ScopedFileService> scope;
+  if (session.progress.watched()) scope.emplace(files);
   session.call_arguments = std::move(line.call_arguments);
   add_commands(app, session);
   try {
