@@ -54,8 +54,9 @@ template <class IsUnwanted>
     const char* const first = line + start.blanks;
     const char* const last = end - static_cast<int>(end[-1] == '\r');
     if (!is_usual_record(first, last, start.blanks, lines.odd())) [[unlikely]] {
-      const bool simple = start.blanks < 8 && !lines.odd() && !lines.empty();
-      if (simple && is_no_record(first, last)) continue;
+      // The last line of a file is handed out whatever it is.
+      const bool may_be_passed = !lines.odd() && !lines.empty();
+      if (may_be_passed && is_no_record(first, last)) continue;
       stop = {SkimStop::Why::unusual_line, LineCursor::line_between(line, end), {}, begin};
       break;
     }
