@@ -1,7 +1,8 @@
 #!/usr/bin/env python3
-"""What needs this system's own locks and devices: another writer, a full disk."""
+"""What needs this system's own locks, permissions and devices."""
 
 import fcntl
+import os
 import os
 import shlex
 import subprocess
@@ -39,6 +40,14 @@ class Waiting(ToolCase):
         writers = [subprocess.Popen(["sh", "-c", script, str(n)], cwd=self.folder) for n in range(10)]
         self.assertEqual([writer.wait() for writer in writers], [0] * 10)
         self.assertEqual(self.ask("count", "manyfile", "NODE").out, f"{10 * each}\n")
+
+
+class Permissions(ToolCase):
+    def test_gives_a_backup_the_permissions_of_the_file(self):
+        self.write("plant.ent", PLANT)
+        os.chmod(self.folder / "plant.ent", 0o600)
+        self.ask("put", "--backup", "plant.ent", "NODE", "B1", "nm=Well")
+        self.assertEqual((self.folder / "plant.ent~").stat().st_mode & 0o777, 0o600)
 
 
 class FullDisk(ToolCase):

@@ -70,7 +70,7 @@ class Ids(ToolCase):
     def test_says_which_file_is_missing(self):
         self.refuse("ids", "no/ids.ent", "NODE", code=FAILED,
                     message="cannot list the identifiers of NODE in 'no/ids.ent': "
-                            f"Path not found ({system_text('No such file or directory', 'Path not found')})")
+                            "Path not found" + system_text(" (No such file or directory)", ""))
 
 
 if __name__ == "__main__":

@@ -90,7 +90,7 @@ class Put(ToolCase):
 
     def test_says_why_a_file_cannot_be_written(self):
         why = system_text("Path not found: 'no/plant.tmp' (No such file or directory)",
-                          "Path not found (Path not found)")
+                          "Path not found")
         self.refuse("put", "no/plant.ent", "NODE", "1", "nm=x", code=FAILED,
                     message=f"cannot rewrite 'no/plant.ent': {why}")
         self.refuse("put", "n.e", "NODE", "1", "nm=x", code=FAILED,
@@ -129,11 +129,6 @@ class Rewriting(ToolCase):
         self.ask("put", "plant.ent", "NODE", "B1", "nm=New", "--backup=.old")
         self.assertEqual(self.read("plant.ent.old"), before)
 
-    def test_gives_a_backup_the_permissions_of_the_file(self):
-        os.chmod(self.folder / "plant.ent", 0o600)
-        self.ask("put", "--backup", "plant.ent", "NODE", "B1", "nm=Well")
-        self.assertEqual((self.folder / "plant.ent~").stat().st_mode & 0o777, 0o600)
-
     def test_refuses_a_backup_that_is_the_file_itself(self):
         os.symlink("plant.ent", self.folder / "plant.ent~")
         self.refuse("put", "--backup", "plant.ent", "NODE", "B1", "nm=Well", code=FAILED,
@@ -142,7 +137,8 @@ class Rewriting(ToolCase):
 
     def test_changes_nothing_without_the_backup(self):
         self.refuse("put", "--backup=/x", "plant.ent", "NODE", "B1", "nm=Well", code=FAILED,
-                    message="cannot rewrite 'plant.ent': Path not found: 'plant.ent/x' (Not a directory)")
+                    message="cannot rewrite 'plant.ent': Path not found: 'plant.ent/x'"
+                            + system_text(" (Not a directory)", ""))
         self.assertEqual(self.read("plant.ent"), PLANT)
         self.assertEqual(os.listdir(self.folder), ["plant.ent"])
 
