@@ -143,6 +143,53 @@ class Findings(Check):
         answer = self.ask("check", "plant.ent", code=NOT_FOUND)
         self.assertIn("(and in 1 more places)", answer.out)
 
+    def test_last_line_in_a_block_comment_that_never_closes(self):
+        self.findings("NODE id '1' node\r\n/* old\r\nNODE id '2' node\r\nNODE id '3' node\r\n")
+        self.assertIn("all but the last line", self.run_tool("check", "plant.ent").out)
+        self.assertIsNone(self.lookup("NODE", "2"))
+        self.assertEqual(self.lookup("NODE", "3"), "id '3' \n")
+
+    def test_comment_on_the_last_line(self):
+        for comment in ("; end", "/* end */", "/*\r\n*/"):
+            with self.subTest(comment):
+                found = self.findings("NODE id '1' node\r\n  " + comment + "\r\n\r\n")
+                self.assertEqual(found, [])
+                found = self.findings("NODE id '1' node\r\n" + comment + "\r\n")
+                self.assertEqual(found, [(2 + comment.count("\n"), 1, "last-comment")])
+                self.ask("put", "plant.ent", "NODE", "1", "nm=x")
+                last = comment.split("\r\n")[-1]
+                self.assertTrue(self.read("plant.ent").endswith(last + "\r\n" + last + "\r\n"))
+
+    def test_entity_inside_another_one(self):
+        found = self.findings("NODE id 'A' node ; old\r\nNODE id 'B' nm 'x'\r\nln 5 node\r\n")
+        self.assertEqual(found, [(2, 1, "inner-block")])
+        self.assertIsNone(self.lookup("NODE", "B"))
+
+    def test_type_in_other_letters(self):
+        found = self.findings("node id 'A' node\r\nNode id 'B' nm 'x'\r\nnode\r\nNODE id 'C' node\r\n")
+        self.assertEqual(found, [(1, 1, "lower-case-type"), (2, 1, "lower-case-type")])
+        self.assertIsNone(self.lookup("node", "A"))
+        self.assertIsNone(self.lookup("Node", "B"))
+
+    def test_file_in_utf_8(self):
+        found = self.findings("NODE id 'A' nm 'Caf\u00e9' node\r\nNODE id 'B' nm '\u0141\u00f3d\u017a' node\r\n", "utf-8")
+        self.assertEqual(found[0], (1, 20, "other-encoding"))
+        self.assertIsNone(self.lookup("NODE", "nm 'Caf\u00e9'"))
+
+    def test_characters_that_are_no_utf_8(self):
+        self.assertEqual(self.findings("NODE id 'A' nm 'Caf\u00e9 \u00c3\u00a9' node\r\n"), [])
+
+    def test_byte_order_mark(self):
+        found = self.findings(b"\xef\xbb\xbfNODE id 'A' node\r\n")
+        self.assertEqual(found[0], (1, 1, "other-encoding"))
+        self.assertIsNone(self.lookup("NODE", "A"))
+        found = self.findings(b"\xff\xfe" + "NODE id 'A' node\r\n".encode("utf-16-le"))
+        self.assertEqual(found[0], (1, 1, "other-encoding"))
+        self.assertIsNone(self.lookup("NODE", "A"))
+
+    def test_identifier_whose_quote_never_closes(self):
+        self.assertEqual(self.findings("NODE id 'A node\r\n"), [(1, 9, "open-quote")])
+
     def test_finds_several_things(self):
         found = self.findings("NODE id'A' nm 'x node\r\nNODE nm 'y'\r\nid 'B' TBLE\r\nnode\r\n")
         self.assertEqual([kind for _, _, kind in found], ["id-without-blanks", "open-quote", "late-id", "open-table"])

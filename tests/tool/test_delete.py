@@ -1,9 +1,10 @@
 #!/usr/bin/env python3
 """Removing entities."""
 
+import subprocess
 import unittest
 
-from tool_case import FAILED, NOT_FOUND, PLANT, USAGE, ToolCase
+from tool_case import FAILED, NOT_FOUND, PLANT, TOOL, USAGE, ToolCase
 
 
 class Delete(ToolCase):
@@ -32,6 +33,11 @@ class Delete(ToolCase):
         answer = self.refuse("delete", "plant.ent", "NODE", "B1", "B7", code=NOT_FOUND,
                              message="there is no NODE B7 in 'plant.ent'")
         self.assertEqual(answer.out, "deleted 1 NODE\n")
+
+    def test_answers_before_it_reports_what_is_missing(self):
+        done = subprocess.run([*TOOL, "delete", "plant.ent", "NODE", "B1", "B7"], cwd=self.folder, check=False,
+                              stdout=subprocess.PIPE, stderr=subprocess.STDOUT)
+        self.assertEqual(done.stdout, b"deleted 1 NODE\nkwutils: there is no NODE B7 in 'plant.ent'\n")
 
     def test_leaves_the_file_alone_when_nothing_is_found(self):
         self.write("plant.ent", "  NODE id '1' node")

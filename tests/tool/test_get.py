@@ -31,6 +31,19 @@ class Get(ToolCase):
         self.assertEqual(self.ask("get", "plant.ent", "NODE", "B2", "--without-table").out,
                          "id 'B2' nm 'Outlet' \n \n")
 
+    def test_leaves_the_table_out_in_any_case(self):
+        self.assertEqual(self.ask("get", "plant.ent", "node", "b2", "--without-table").out, "id 'B2' nm 'Outlet' \n \n")
+        self.assertEqual(self.ask("get", "plant.ent", "node", "Outlet", "--by", "nm", "--without-table").out,
+                         "id 'B2' nm 'Outlet' \n \n")
+        self.write("first.ent", "LINK id 'L1' fr 'NODE' link\r\nNODE nm 'x' TBLE\r\n1 2\r\ntble node\r\n")
+        self.assertEqual(self.ask("get", "first.ent", "node", "--without-table").out, "nm 'x' \n \n")
+
+    def test_says_that_a_table_cannot_be_left_out(self):
+        self.write("grid.ent", "NODE grid '2' id '1' node\r\nNODE id '2' TBLE\r\n1 2\r\ntble node\r\n")
+        for words in (("get", "grid.ent", "NODE", "2", "--without-table"), ("table", "grid.ent", "NODE", "2")):
+            self.refuse(*words, code=FAILED,
+                        message="cannot reach the table of NODE 2 in 'grid.ent': another entity looks like this one")
+
     def test_looks_from_a_position_on(self):
         start = PLANT.index("NODE id 'B2'") + 1
         self.assertEqual(self.ask("get", "plant.ent", "NODE", "B2", "--at", str(start)).code, 0)

@@ -27,6 +27,10 @@ class Table(ToolCase):
         self.write("plant.ent", "NODE nm 'x'\r\nTBLE\r\n1 2 <\r\ntble node\r\n")
         self.assertEqual(self.ask("table", "plant.ent", "NODE").out, "1  2\n")
 
+    def test_takes_the_type_in_any_case(self):
+        self.write("plant.ent", "LINK id 'L' fr 'node' link\r\nNODE nm 'x' TBLE\r\n1 2 <\r\ntble node\r\n")
+        self.assertEqual(self.ask("table", "plant.ent", "node").out, "1  2\n")
+
     def test_draws_on_the_terminal(self):
         lines = self.ask("table", "plant.ent", "NODE", "B2", "--plot").out.splitlines()
         self.assertEqual(len(lines), 18)

@@ -29,6 +29,7 @@ class Checker {
     if (!value) return find_invisible();
     const std::string_view id = parse::token_at(*value, 1);
     const auto at = static_cast<std::size_t>(value->data() - line.data());
+    if (quote_is_open(line, at)) return;  // a finding of its own
     check_surroundings(line, at, id);
     check_twin(id, at, known);
   }
@@ -37,6 +38,10 @@ class Checker {
   void add(std::size_t record, std::size_t at, const char* kind, std::string message) {
     findings_.push_back(
         {block_.records[record].line, block_.column(record, at), kind, std::move(message)});
+  }
+
+  static bool quote_is_open(std::string_view line, std::size_t at) {
+    return at < line.size() && is_quote(line[at]) && line.find(line[at], at + 1) == line.npos;
   }
 
   static std::string shown(std::string_view id) { return in_quotes(to_utf8(widen(id))); }

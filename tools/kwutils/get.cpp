@@ -3,6 +3,7 @@
 #include "base/unicode.h"
 #include "tool/command.h"
 #include "tool/entity_store.h"
+#include "tool/exact_lookup.h"
 #include "tool/failure.h"
 #include "tool/json_writer.h"
 
@@ -18,18 +19,24 @@ struct GetOptions {
   bool without_table = false;
 };
 
-String read(const GetOptions& options) {
+String read_whole(const GetOptions& options) {
   const clsFileReadWrite store;
   const String name = options.file.name();
   const String token = options.file.token();
   const String id = String::from_utf8(options.id);
-  if (options.without_table) return store.GetEntityWithoutTable(name, token, id);
   if (options.id.empty()) return store.GetTokenEntity(name, token);
   if (options.by.empty() && !options.at) return store.GetEntity(name, token, id);
   const Variant by =
       options.by.empty() ? Variant::missing() : Variant(String::from_utf8(options.by));
   const Variant at = options.at ? Variant(*options.at) : Variant::missing();
   return store.GetEntityWithTokenAndSeek(name, token, id, by, at);
+}
+
+String read(const GetOptions& options) {
+  String entity = read_whole(options);
+  if (entity.empty() || !options.without_table) return entity;
+  const ExactLookup lookup = exact_lookup(options.file, options.id, entity);
+  return clsFileReadWrite().GetEntityWithoutTable(options.file.name(), lookup.type, lookup.id);
 }
 
 void write_lines(Output& out, std::u16string_view text) {

@@ -1,5 +1,7 @@
 #include "tool/session.h"
 
+#include <exception>
+
 #include "platform/terminal.h"
 
 namespace kw::tool {
@@ -12,7 +14,11 @@ Session::Session(std::FILE* answers, std::FILE* messages)
 
 void Session::say(std::string_view message) {
   progress.clear();
-  std::fflush(out_file);
+  try {
+    out.flush();
+  } catch (const std::exception&) {
+    // The command's own flush at its end fails again, and reports it.
+  }
   std::fprintf(err_file, "kwutils: %.*s\n", static_cast<int>(message.size()), message.data());
 }
 

@@ -1,5 +1,6 @@
 #include "tool/source_blocks.h"
 
+#include "base/case_map.h"
 #include "base/code_page.h"
 #include "base/unicode.h"
 #include "store/closing_word.h"
@@ -61,7 +62,11 @@ class Cutter {
       add(block, 0, "open-block",
           "the block " + widened(block.word) + " never closes with " +
               in_quotes(widened(block.closing)) + ": it hides the rest of the file");
-    if (block.closed) check_tail(block);
+    if (block.closed) {
+      check_case(block);
+      check_tail(block);
+      check_inside(block);
+    }
     if (block.word.size() == kHeaderLetters && block.records.size() > 1)
       add(block, 0, "six-letters",
           first ? "the first word of the file has six letters: readers of other types take this "
@@ -69,6 +74,32 @@ class Cutter {
                   "header and its other lines for blocks of their own"
                 : "a first word of six letters: GetEntities passes over this line alone and takes "
                   "the other lines for blocks of their own");
+  }
+
+  void check_case(const SourceBlock& block) {
+    const std::u16string word = widen(block.word);
+    if (word != upper(word))
+      add(block, 0, "lower-case-type",
+          "the type " + widened(block.word) +
+              " is not in upper case: no look-up finds what it opens");
+  }
+
+  // Looks for what should have been an entity of its own.
+  void check_inside(const SourceBlock& block) {
+    bool in_table = holds(block.text(0), "TBLE") && !holds(block.text(0), "tble");
+    for (std::size_t i = 1; i < block.records.size(); ++i) {
+      const std::string_view text = block.text(i);
+      if (!in_table && store::take_first_word(text).word == block.word)
+        return add(block, i, "inner-block",
+                   "the block " + widened(block.word) + " of line " +
+                       std::to_string(block.records[0].line) +
+                       " is still open here: look-ups do not see this one");
+      in_table = (in_table || holds(text, "TBLE")) && !holds(text, "tble");
+    }
+  }
+
+  static bool holds(std::string_view text, std::string_view mark) {
+    return text.find(mark) != text.npos;
   }
 
   void check_tail(const SourceBlock& block) {

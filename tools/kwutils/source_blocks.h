@@ -31,8 +31,9 @@ struct SourceBlock {
 };
 
 // Cuts the records as a reader does that passes over everything. Adds findings about blocks: those
-// that never close, records that close by the tail of a longer word, first words of six letters
-// that some readers take for a header.
+// that never close or stand inside another one of their type, types that are not in upper case,
+// records that close by the tail of a longer word, first words of six letters that some readers
+// take for a header.
 std::vector<SourceBlock> cut_blocks(const SourceText& source, Findings& findings);
 
 }  // namespace kw::tool

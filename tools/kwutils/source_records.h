@@ -24,7 +24,7 @@ struct SourceText {
 
 // Cuts the content of a file, which must outlive the result. Adds findings about lines and
 // comments: lone CR and LF (the first of each kind stands for all), block comments that never
-// close, bytes without a character in the code page.
+// close, a comment on the last line, bytes without a character in the code page, other encodings.
 SourceText cut_source(std::string_view content, Findings& findings);
 
 }  // namespace kw::tool

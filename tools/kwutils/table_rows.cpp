@@ -3,8 +3,7 @@
 #include "base/find_text.h"
 #include "base/unicode.h"
 #include "parse/item.h"
-#include "tool/failure.h"
-#include "tool/store_entities.h"
+#include "tool/exact_lookup.h"
 
 namespace kw::tool {
 namespace {
@@ -30,15 +29,6 @@ void cut_line(View line, std::vector<TableRow>& rows) {
   if (!row.empty()) rows.push_back(std::move(row));
 }
 
-// The identifier as the entity spells it: tables are looked up to the letter.
-String spelling(const EntityFile& file, const std::string& id, const String& entity) {
-  if (id.empty()) return file.token();
-  if (!begins_with_identifier(entity))
-    fail("cannot reach the table of " + file.type + " " + id + " in " + in_quotes(file.path) +
-         ": the entity does not begin with its identifier");
-  return *item_of(entity, u"id");
-}
-
 }  // namespace
 
 std::optional<std::vector<TableRow>> read_table(const EntityFile& file, const std::string& id) {
@@ -50,7 +40,8 @@ std::optional<std::vector<TableRow>> read_table(const EntityFile& file, const st
   std::vector<TableRow> rows;
   if (find_text(entity.view(), View(u"TBLE")) == kNotFound) return rows;
   Array<String> lines;
-  store.GetTableEntry(file.name(), u"", file.token(), spelling(file, id, entity), lines);
+  const ExactLookup lookup = exact_lookup(file, id, entity);
+  store.GetTableEntry(file.name(), u"", lookup.type, lookup.id, lines);
   for (const String& line : lines.elements()) cut_line(line, rows);
   return rows;
 }
