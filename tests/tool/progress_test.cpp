@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <memory>
 #include <string>
 
 #include "platform/memory_files.h"
@@ -13,18 +14,16 @@ using std::chrono::milliseconds;
 
 class Progress : public testing::Test {
  protected:
-  ~Progress() override { std::fclose(terminal_); }
-
   std::string shown() {
     std::string text(4096, '\0');
-    std::rewind(terminal_);
-    text.resize(std::fread(text.data(), 1, text.size(), terminal_));
+    std::rewind(terminal_.get());
+    text.resize(std::fread(text.data(), 1, text.size(), terminal_.get()));
     return text;
   }
 
-  std::FILE* terminal_ = std::tmpfile();
+  std::unique_ptr<std::FILE, int (*)(std::FILE*)> terminal_{std::tmpfile(), &std::fclose};
   ProgressBar::Clock::time_point start_ = ProgressBar::Clock::now();
-  ProgressBar bar_{terminal_, start_};
+  ProgressBar bar_{terminal_.get(), start_};
 };
 
 TEST_F(Progress, ShowsNothingOfShortWork) {
@@ -79,7 +78,7 @@ TEST_F(Progress, IsSilentWhereNobodyWatches) {
 TEST_F(Progress, FollowsTheReadingOfAFile) {
   platform::MemoryFiles memory;
   memory.put(u"a.ent", "0123456789");
-  ProgressBar bar(terminal_, start_ - milliseconds(500));
+  ProgressBar bar(terminal_.get(), start_ - milliseconds(500));
   WatchedFiles files(memory, bar);
   {
     const auto file = files.open_input(u"a.ent");
