@@ -44,6 +44,13 @@ class Findings(Check):
                          "          ^\n"
                          "plant.ent: 1 finding in 2 blocks\n")
 
+    def test_shows_the_part_of_a_long_line_around_the_caret(self):
+        self.write("plant.ent", "NODE id 'A' nm '" + "x" * 500 + "' t 'y" + "z" * 500 + " node\r\n")
+        place, line, caret, _ = self.ask("check", "plant.ent", code=NOT_FOUND).out.splitlines()
+        self.assertTrue(place.startswith("plant.ent:1:521: this quote never closes"))
+        self.assertEqual(line, "…" + "x" * 75 + "' t 'y" + "z" * 77 + "…")
+        self.assertEqual(line[caret.index("^")], "'")
+
     def test_says_which_file_is_missing(self):
         self.refuse("check", "none.ent", code=FAILED, message="cannot check the notation in 'none.ent': File not found")
 

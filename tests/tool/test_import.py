@@ -151,6 +151,11 @@ class Import(ToolCase):
         self.refuse_source("id,a b,a_b\n1,a,b\n", "two columns would be item 'a_b'")
         self.refuse_source("code,id\n1,a\n", "two columns would be item 'id'", "--id-column", "code")
 
+    def test_refuses_a_list_without_columns(self):
+        self.write("rows.json", "[]")
+        self.refuse("import", "plant.ent", "NODE", "rows.json", code=FAILED,
+                    message="there is no column 'id'; there are none")
+
     def test_refuses_columns_that_are_not_there(self):
         self.refuse_source("code,nm\n1,a\n", "there is no column 'id'; there are 'code' 'nm'")
         self.refuse_source("id,nm\n1,a\n", "there is no column 'x'; there are 'id' 'nm'", "--name-column", "x")

@@ -33,12 +33,25 @@ std::u16string shown_line(const SourceText& source, std::size_t number) {
   return line;
 }
 
+// The part of a line around a place in it, with "…" for what is cut off, and the place in that
+// part.
+std::pair<std::u16string, std::size_t> part_around(std::u16string line, std::size_t place) {
+  constexpr std::size_t kLongest = 160;
+  if (line.size() <= kLongest) return {std::move(line), place};
+  const std::size_t begin = std::min(place - std::min(place, kLongest / 2), line.size() - kLongest);
+  std::u16string part = line.substr(begin, kLongest);
+  if (begin != 0) part.front() = u'…';
+  if (begin + kLongest < line.size()) part.back() = u'…';
+  return {std::move(part), place - begin};
+}
+
 void write_text(Output& out, const std::string& path, const SourceText& source,
                 const Finding& finding) {
+  const auto [line, place] = part_around(shown_line(source, finding.line), finding.column - 1);
   out << path << ":" << std::to_string(finding.line) << ":" << std::to_string(finding.column)
       << ": " << finding.message << "\n"
-      << shown_line(source, finding.line) << "\n"
-      << std::string(finding.column - 1, ' ') << "^\n";
+      << line << "\n"
+      << std::string(place, ' ') << "^\n";
 }
 
 void write_json(JsonWriter& json, const std::string& path, const SourceText& source,

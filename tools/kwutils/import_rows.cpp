@@ -31,7 +31,7 @@ std::size_t required_column(const SourceTable& table, const std::string& name) {
   if (const auto column = column_named(table, name)) return *column;
   std::string names;
   for (const std::u16string& column : table.columns) names += " " + in_quotes(to_utf8(column));
-  fail("there is no column " + in_quotes(name) + "; there are" + names);
+  fail("there is no column " + in_quotes(name) + "; there are" + (names.empty() ? " none" : names));
 }
 
 void add_column(Layout& layout, std::size_t column, std::u16string keyword,
