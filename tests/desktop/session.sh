@@ -38,14 +38,15 @@ await() {
 private_prefix() { # x64|x86
   bitness=$1
   local cache=${KW_CACHE:-${XDG_CACHE_HOME:-$HOME/.cache}/kwutils}
+  local prefixes=${KW_CACHE:-$(dirname "$wine")/../build}
   # The usual prefix is made where it does not exist yet.
   "$wine" "$bitness" cmd.exe /c ver >/dev/null
-  session=$(mktemp -d "$cache/session.XXXXXX")
+  session=$(mktemp -d "$(realpath "$prefixes")/session.XXXXXX")
   work=$(mktemp -d)
   trap end_session EXIT
   trap 'exit 1' INT TERM
   ln -s "$cache/i386-root" "$session/i386-root"
-  local usual=$cache/wine-$bitness own=$session/wine-$bitness
+  local usual=$prefixes/wine-$bitness own=$session/wine-$bitness
   mkdir "$own"
   cp -al "$usual/drive_c" "$own/"
   cp -a "$usual"/{dosdevices,.update-timestamp,system.reg,user.reg,userdef.reg} "$own/"
