@@ -3,8 +3,8 @@
 
 import fcntl
 import os
-import os
 import shlex
+import shutil
 import subprocess
 import time
 import unittest
@@ -48,6 +48,19 @@ class Permissions(ToolCase):
         os.chmod(self.folder / "plant.ent", 0o600)
         self.ask("put", "--backup", "plant.ent", "NODE", "B1", "nm=Well")
         self.assertEqual((self.folder / "plant.ent~").stat().st_mode & 0o777, 0o600)
+
+
+class Registration(ToolCase):
+    def test_looks_for_the_library_where_the_tool_is(self):
+        tools = self.folder / "bin"
+        tools.mkdir()
+        shutil.copy(TOOL[0], tools / "kwutils")
+        places = {**os.environ, "PATH": str(tools), "LD_LIBRARY_PATH": os.path.dirname(TOOL[0])}
+        # Started by its name alone, from a folder that has nothing to do with it.
+        done = subprocess.run(["kwutils", "register"], cwd="/", env=places, capture_output=True,
+                              check=False)
+        self.assertEqual(done.returncode, FAILED)
+        self.assertIn(f"library '{self.folder.resolve()}/", done.stderr.decode())
 
 
 class FullDisk(ToolCase):

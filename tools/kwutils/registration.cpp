@@ -40,7 +40,10 @@ std::string library_file(const RegisterOptions& options) {
   const std::filesystem::path file =
       options.library.empty() ? default_library() : path_of(options.library);
   std::error_code failure;
-  const std::filesystem::path path = std::filesystem::canonical(file, failure);
+  // A link stays one: it leads to the library after an upgrade, too.
+  const std::filesystem::path path = std::filesystem::absolute(file, failure).lexically_normal();
+  if (!failure && !std::filesystem::exists(path, failure) && !failure)
+    failure = std::make_error_code(std::errc::no_such_file_or_directory);
   if (failure)
     fail("cannot register the library " + in_quotes(text_of(file)) + ": " + failure.message());
   return text_of(path);

@@ -1,6 +1,7 @@
 #include "platform/registry.h"
 
 #include <dlfcn.h>
+#include <link.h>
 
 #include <filesystem>
 #include <system_error>
@@ -19,6 +20,7 @@ namespace {
 
 constexpr const char* kFileName = "classes.ini";
 constexpr const char* kSystemFolder = "/etc/kwutils";
+constexpr const char* kOwnFolder = "kwutils";  // a host's folder is not the library's own
 
 std::filesystem::path user_folder() {
   if (const auto folder = host_text(&HostFunctions::registry_folder)) return to_utf8(*folder);
@@ -71,10 +73,11 @@ void unregister_classes(std::span<const RegisteredClass> classes, RegistryScope 
   if (!files().exists(from_utf8(path.native()))) return;
   ClassFile content = read_registry(path);
   for (const RegisteredClass& entry : classes) content.remove(entry.name);
-  if (content.empty())
-    files().remove(from_utf8(path.native()));
-  else
-    write_registry(path, content.text());
+  if (!content.empty()) return write_registry(path, content.text());
+  files().remove(from_utf8(path.native()));
+  std::error_code in_use;  // something else lies there
+  if (path.parent_path().filename() == kOwnFolder)
+    std::filesystem::remove(path.parent_path(), in_use);
 }
 
 RegistryScope own_scope() noexcept { return RegistryScope::user; }
@@ -92,8 +95,13 @@ std::optional<ClassServer> find_class_server(std::u16string_view name) {
 
 std::string own_module_path() {
   Dl_info info = {};
-  if (dladdr(reinterpret_cast<const void*>(&own_module_path), &info) == 0) return {};
+  void* found = nullptr;
+  if (dladdr1(reinterpret_cast<const void*>(&own_module_path), &info, &found, RTLD_DL_LINKMAP) == 0)
+    return {};
   std::error_code failure;
+  // The program itself has no name there, and the word that it was started by may name no path.
+  const char* name = static_cast<const link_map*>(found)->l_name;
+  if (*name == '\0') return std::filesystem::read_symlink("/proc/self/exe", failure).native();
   const auto path = std::filesystem::absolute(info.dli_fname, failure);
   return failure ? info.dli_fname : path.lexically_normal().native();
 }
