@@ -1,5 +1,7 @@
 # What programs link and what `cmake --install` lays down: kwutils::kwutils (the C++ API, static),
 # the automation library, the tool, the headers, a package configuration and a pkg-config file.
+#
+# Three components: what programs run with, what they are built with, the tool.
 include(CMakePackageConfigHelpers)
 
 get_property(folders GLOBAL PROPERTY KW_FOLDERS)
@@ -31,25 +33,27 @@ endif()
 if(TARGET kwutils_tool)
   file(RELATIVE_PATH libraries_from_tool /${CMAKE_INSTALL_BINDIR} /${CMAKE_INSTALL_LIBDIR})
   set_target_properties(kwutils_tool PROPERTIES INSTALL_RPATH "$ORIGIN/${libraries_from_tool}")
-  install(TARGETS kwutils_tool RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
+  install(TARGETS kwutils_tool RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT tool)
 endif()
 set_target_properties(kwutils_server PROPERTIES EXPORT_NAME automation)
 
 install(TARGETS ${targets} EXPORT kwutils
-  ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR}
-  LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
-  RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
-install(FILES ${headers} DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/kwutils)
+  ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT development
+  LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT runtime NAMELINK_COMPONENT development
+  RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT runtime)
+install(FILES ${headers} DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/kwutils COMPONENT development)
 
 set(package_folder ${CMAKE_INSTALL_LIBDIR}/cmake/kwutils)
-install(EXPORT kwutils NAMESPACE kwutils:: DESTINATION ${package_folder})
+install(EXPORT kwutils NAMESPACE kwutils:: DESTINATION ${package_folder} COMPONENT development)
 configure_package_config_file(${CMAKE_CURRENT_LIST_DIR}/kwutils-config.cmake.in
   ${PROJECT_BINARY_DIR}/kwutils-config.cmake INSTALL_DESTINATION ${package_folder})
 write_basic_package_version_file(${PROJECT_BINARY_DIR}/kwutils-config-version.cmake
   COMPATIBILITY SameMajorVersion)
 install(FILES ${PROJECT_BINARY_DIR}/kwutils-config.cmake
-  ${PROJECT_BINARY_DIR}/kwutils-config-version.cmake DESTINATION ${package_folder})
+  ${PROJECT_BINARY_DIR}/kwutils-config-version.cmake DESTINATION ${package_folder}
+  COMPONENT development)
 # Relative to the file itself, so that what is installed can be moved.
 file(RELATIVE_PATH KW_PREFIX_FROM_PC /${CMAKE_INSTALL_LIBDIR}/pkgconfig /)
 configure_file(${CMAKE_CURRENT_LIST_DIR}/kwutils.pc.in ${PROJECT_BINARY_DIR}/kwutils.pc @ONLY)
-install(FILES ${PROJECT_BINARY_DIR}/kwutils.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
+install(FILES ${PROJECT_BINARY_DIR}/kwutils.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig
+  COMPONENT development)

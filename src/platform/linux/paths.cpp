@@ -61,7 +61,9 @@ std::u16string module_directory() {
 
 std::u16string module_name() {
   if (auto text = host_text(&HostFunctions::module_name)) return *std::move(text);
-  return from_utf8(std::filesystem::path(own_module_path()).stem().native());
+  // Without the version, which stands behind the extension here.
+  const std::string file = std::filesystem::path(own_module_path()).filename().native();
+  return from_utf8(file.substr(0, file.find(".so")));
 }
 
 }  // namespace kw::platform
