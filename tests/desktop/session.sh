@@ -1,3 +1,4 @@
+# shellcheck shell=bash
 # For scripts to source: a screen of their own with a window manager, and a Wine whose windows appear
 # there. Everything that was started ends with the script.
 #
@@ -25,8 +26,7 @@ end_session() {
 
 # Waits until a command succeeds, for a minute at most.
 await() {
-  local tries
-  for tries in {1..600}; do
+  for _ in {1..600}; do
     if "$@" >/dev/null 2>&1; then return 0; fi
     sleep 0.1
   done

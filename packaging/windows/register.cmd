@@ -1,0 +1,7 @@
+@echo off
+rem Registers the library in this folder for the whole machine; needs an administrator's rights.
+rem What stands behind the name goes to regsvr32, "/s" for example: no message.
+setlocal
+set "server=%SystemRoot%\System32\regsvr32.exe"
+if exist "%SystemRoot%\SysWOW64\regsvr32.exe" set "server=%SystemRoot%\SysWOW64\regsvr32.exe"
+"%server%" %* "%~dp0KWUTILS.DLL"
