@@ -83,7 +83,7 @@ class Rewrite {
   std::unique_ptr<platform::InputFile> old_file_;
   std::unique_ptr<RecordReader> old_records_;
   std::int64_t record_position_ = 0;  // of the record read last, or of the comments before it
-  std::unique_ptr<char[]> staged_;  // not cleared: small files never touch most of it
+  std::unique_ptr<char[]> staged_;    // not cleared: small files never touch most of it
   std::size_t staged_size_ = 0;
   std::string block_;  // the records of one block that wait for the comments inside it
 };

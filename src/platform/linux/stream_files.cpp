@@ -46,8 +46,8 @@ class SystemInput : public InputFile {
 
 }  // namespace
 
-// A pipe that nobody has open for writing is empty: to open it must not wait for a writer, though to
-// read it must wait for what a writer has not yet written.
+// A pipe that nobody has open for writing is empty: to open it must not wait for a writer, though
+// to read it must wait for what a writer has not yet written.
 std::unique_ptr<InputFile> open_system_input(FileName name) {
   Descriptor file = open_descriptor(name.path, O_RDONLY | O_NONBLOCK);
   if (!file) throw_lookup_error(errno, name);
