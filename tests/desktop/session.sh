@@ -55,13 +55,15 @@ private_prefix() { # x64|x86
 
 # A screen of 800 by 600 pixels, named by DISPLAY and KW_DISPLAY.
 own_screen() {
-  Xvfb -displayfd 3 -screen 0 800x600x24 -nolisten tcp 3>"$work/display" >"$work/screen.log" 2>&1 &
+  # Without -noreset the server starts anew whenever its last client leaves, and refuses whoever
+  # comes just then.
+  Xvfb -displayfd 3 -screen 0 800x600x24 -nolisten tcp -noreset \
+    3>"$work/display" >"$work/screen.log" 2>&1 &
   session_started+=($!)
   await test -s "$work/display"
   DISPLAY=:$(cat "$work/display")
   export DISPLAY KW_DISPLAY=$DISPLAY
   openbox >"$work/windows.log" 2>&1 &
   session_started+=($!)
-  await xprop -root -notype _NET_SUPPORTING_WM_CHECK
-  await sh -c 'xprop -root _NET_SUPPORTING_WM_CHECK | grep -q window'
+  await sh -c 'xprop -root _NET_SUPPORTING_WM_CHECK | grep -q "window id"'
 }
