@@ -46,12 +46,10 @@ VIAddVersionKey LegalCopyright "the kwUtils authors"
 
 !macro REMOVE_ENTRIES
   SetRegView 32
-  !insertmacro KW_UNREGISTER
-  !insertmacro KW_UNREGISTER_SHARED
+  !insertmacro KW_UNREGISTER "win32"
   ${If} ${RunningX64}
     SetRegView 64
-    !insertmacro KW_UNREGISTER
-    !insertmacro KW_UNREGISTER_SHARED
+    !insertmacro KW_UNREGISTER "win64"
   ${EndIf}
   SetRegView 32
   DeleteRegKey SHCTX "${UNINSTALL}"

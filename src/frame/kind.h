@@ -79,6 +79,20 @@ struct Native<Array<float>> : NativeAs<Kind::single_array, SAFEARRAY*, kVtArray 
 template <>
 struct Native<Array<double>> : NativeAs<Kind::real_array, SAFEARRAY*, kVtArray | kVtR8> {};
 
+template <class... T>
+constexpr VARTYPE vartype_among(Kind kind) {
+  VARTYPE result = kVtEmpty;
+  ((result = Native<T>::kind == kind ? Native<T>::vartype : result), ...);
+  return result;
+}
+
+// The kind of variant that holds a value of a kind; kVtEmpty for none.
+constexpr VARTYPE vartype_of(Kind kind) {
+  return vartype_among<String, std::int16_t, std::int32_t, float, double, Boolean, Variant, Object,
+                       Unknown, Collection, Array<String>, Array<std::int16_t>,
+                       Array<std::int32_t>, Array<float>, Array<double>>(kind);
+}
+
 // A reference parameter is passed by reference, anything else by value; a reference to const is
 // passed by reference all the same, and not changed.
 template <class P>

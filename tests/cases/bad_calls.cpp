@@ -11,42 +11,10 @@ namespace {
 
 using frame::Kind;
 
-VARTYPE kind_of_variant(Kind kind) {
-  switch (kind) {
-    case Kind::text:
-      return kVtBstr;
-    case Kind::int16:
-      return kVtI2;
-    case Kind::int32:
-      return kVtI4;
-    case Kind::single:
-      return kVtR4;
-    case Kind::real:
-      return kVtR8;
-    case Kind::boolean:
-      return kVtBool;
-    case Kind::object:
-    case Kind::collection:
-      return kVtDispatch;
-    case Kind::text_array:
-      return kVtArray | kVtBstr;
-    case Kind::int16_array:
-      return kVtArray | kVtI2;
-    case Kind::int32_array:
-      return kVtArray | kVtI4;
-    case Kind::single_array:
-      return kVtArray | kVtR4;
-    case Kind::real_array:
-      return kVtArray | kVtR8;
-    default:
-      return kVtEmpty;
-  }
-}
-
 Variant harmless(const frame::Parameter& parameter) {
-  if (parameter.kind == Kind::variant && parameter.optional) return Variant::missing();
+  if (parameter.kind == Kind::variant) return parameter.optional ? Variant::missing() : Variant();
   Variant value;
-  value.address()->vt = kind_of_variant(parameter.kind);
+  value.address()->vt = frame::vartype_of(parameter.kind);
   value.address()->llVal = 0;
   return value;
 }

@@ -149,37 +149,6 @@ Variant value_in(std::string_view text, Kind kind) {
   }
 }
 
-VARTYPE variable_kind(Kind kind) {
-  switch (kind) {
-    case Kind::text:
-      return kVtBstr;
-    case Kind::int16:
-      return kVtI2;
-    case Kind::int32:
-      return kVtI4;
-    case Kind::single:
-      return kVtR4;
-    case Kind::real:
-      return kVtR8;
-    case Kind::boolean:
-      return kVtBool;
-    case Kind::text_array:
-      return kVtArray | kVtBstr;
-    case Kind::int16_array:
-      return kVtArray | kVtI2;
-    case Kind::int32_array:
-      return kVtArray | kVtI4;
-    case Kind::single_array:
-      return kVtArray | kVtR4;
-    case Kind::real_array:
-      return kVtArray | kVtR8;
-    case Kind::variant:
-      return kVtEmpty;
-    default:
-      return kVtDispatch;
-  }
-}
-
 }  // namespace
 
 Variant read_argument(std::string_view text, const frame::Parameter& parameter) {
@@ -194,7 +163,7 @@ Variant read_argument(std::string_view text, const frame::Parameter& parameter) 
 
 Variant initial_value(const frame::Parameter& parameter) {
   Variant result;
-  result.address()->vt = variable_kind(parameter.kind);
+  if (parameter.kind != Kind::variant) result.address()->vt = frame::vartype_of(parameter.kind);
   return result;
 }
 
