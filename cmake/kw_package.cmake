@@ -36,11 +36,13 @@ set(CPACK_COMPONENT_TOOL_DESCRIPTION
   "The command-line tool: lists, reads and changes keyed entity files.")
 
 set(documents ${CMAKE_INSTALL_DATAROOTDIR}/doc)
+# The packages alone have these: a plain "cmake --install" leaves them out.
 set(copyright ${PROJECT_SOURCE_DIR}/packaging/debian/copyright)
 foreach(part IN ITEMS runtime:${library_package} development:libkwutils-dev tool:kwutils)
   string(REPLACE ":" ";" part ${part})
   list(GET part 0 component)
   list(GET part 1 package)
-  install(FILES ${copyright} DESTINATION ${documents}/${package} COMPONENT ${component})
+  install(FILES ${copyright} DESTINATION ${documents}/${package} COMPONENT ${component}
+    EXCLUDE_FROM_ALL)
 endforeach()
 include(CPack)

@@ -55,8 +55,9 @@ VIAddVersionKey LegalCopyright "the kwUtils authors"
   DeleteRegKey SHCTX "${UNINSTALL}"
 !macroend
 
-; A library that a program has loaded cannot be replaced: nothing is changed then.
-Function RefuseWhileInUse
+; A library that a program has loaded can be neither replaced nor deleted: nothing is changed then.
+!macro REFUSE_WHILE_IN_USE KIND
+Function ${KIND}RefuseWhileInUse
   ReadRegStr $0 SHCTX "${UNINSTALL}" "InstallLocation"
   ${If} $0 == ""
     StrCpy $0 $INSTDIR
@@ -77,6 +78,9 @@ Function RefuseWhileInUse
     ${EndIf}
   ${Next}
 FunctionEnd
+!macroend
+!insertmacro REFUSE_WHILE_IN_USE ""
+!insertmacro REFUSE_WHILE_IN_USE "un."
 
 ; An earlier version takes itself away first, from wherever it was put.
 Function RemoveEarlier
@@ -133,6 +137,7 @@ Section
 SectionEnd
 
 Section Uninstall
+  Call un.RefuseWhileInUse
   !insertmacro REMOVE_ENTRIES
   ; The files that were put there, and the folders where nobody else put any.
   !insertmacro KW_REMOVE_FILES

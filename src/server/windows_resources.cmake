@@ -10,16 +10,8 @@ add_custom_command(OUTPUT ${type_library}
           -o ${type_library} ${CMAKE_CURRENT_SOURCE_DIR}/kwutils.idl
   DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/kwutils.idl ${CMAKE_CURRENT_SOURCE_DIR}/automation_base.idl)
 
-# 1.2.12 is written 1.02.0012; the system's four numbers are 1, 2, 0 and 12.
+# The system's four numbers of version 1.02.0012 are 1, 2, 0 and 12.
 set(KW_VERSION_NUMBERS ${PROJECT_VERSION_MAJOR},${PROJECT_VERSION_MINOR},0,${PROJECT_VERSION_PATCH})
-string(LENGTH ${PROJECT_VERSION_MINOR} minor_digits)
-string(LENGTH ${PROJECT_VERSION_PATCH} patch_digits)
-math(EXPR minor_zeros "2 - ${minor_digits}")
-math(EXPR patch_zeros "4 - ${patch_digits}")
-string(REPEAT 0 ${minor_zeros} minor_zeros)
-string(REPEAT 0 ${patch_zeros} patch_zeros)
-set(KW_VERSION_TEXT
-  ${PROJECT_VERSION_MAJOR}.${minor_zeros}${PROJECT_VERSION_MINOR}.${patch_zeros}${PROJECT_VERSION_PATCH})
 configure_file(${CMAKE_CURRENT_SOURCE_DIR}/kwutils.rc.in ${CMAKE_CURRENT_BINARY_DIR}/kwutils.rc @ONLY)
 
 target_sources(kwutils_server PRIVATE ${CMAKE_CURRENT_BINARY_DIR}/kwutils.rc)

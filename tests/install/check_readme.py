@@ -1,11 +1,12 @@
 #!/usr/bin/env python3
-"""The README's C++ example must be the program that the tests compile and run."""
+"""The README's C++ examples must be the programs that the tests compile and run."""
 
 import pathlib
+import re
 import sys
 
 root = pathlib.Path(sys.argv[1])
-program = (root / "examples/cpp/quick_start.cpp").read_text()
-readme = (root / "README.md").read_text()
-if f"```cpp\n{program}```" not in readme:
-    sys.exit("README.md: its C++ example differs from examples/cpp/quick_start.cpp")
+shown = re.findall(r"^```cpp\n(.*?)^```$", (root / "README.md").read_text(), re.MULTILINE | re.DOTALL)
+programs = [(root / "examples/cpp" / name).read_text() for name in ("quick_start.cpp", "host.cpp")]
+if shown != programs:
+    sys.exit("README.md: its C++ examples differ from the programs in examples/cpp")

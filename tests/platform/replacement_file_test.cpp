@@ -127,10 +127,9 @@ TEST_F(ReplacementFileTest, ASecondWriterDoesNotWait) {
 TEST_F(ReplacementFileTest, ALinkToItsOwnTemporaryFileIsNoTarget) {
   folder_.write("a.ent", "old");
   fs::create_symlink("a.ent", folder_ / "link");
-  EXPECT_EQ(number_of([&] {
-              files().create_replacement(folder_.name("a.ent"), folder_.name("link"));
-            }),
-            5);
+  EXPECT_EQ(
+      number_of([&] { files().create_replacement(folder_.name("a.ent"), folder_.name("link")); }),
+      5);
   EXPECT_EQ(folder_.read("a.ent"), "old");
 }
 
