@@ -1,23 +1,11 @@
 #include "frame/host_door.h"
 
-#include "kwutils/error.h"
+#include "frame/guarded.h"
 #include "kwutils/string.h"
 #include "platform/file_numbers.h"
 
 namespace kw::frame {
 namespace {
-
-template <class Body>
-HRESULT guarded(Body&& body) noexcept {
-  try {
-    body();
-    return status::kOk;
-  } catch (const Error& error) {
-    return status::kRunTimeError + static_cast<std::int32_t>(error.number);
-  } catch (...) {
-    return status::kOutOfMemory;
-  }
-}
 
 std::u16string_view view_of(BSTR text) { return {text, text != nullptr ? SysStringLen(text) : 0}; }
 
