@@ -8,10 +8,10 @@
 
 #include "base/code_page.h"
 #include "base/numeric_text.h"
-#include "kwutils/error.h"
 #include "reference/all_texts.h"
 #include "reference/numeric_text.h"
 #include "reference/random_inputs.h"
+#include "support/expect_error.h"
 
 namespace kw {
 namespace {
@@ -22,12 +22,7 @@ std::uint64_t bits(double value) { return std::bit_cast<std::uint64_t>(value); }
 
 template <class Call>
 void expect_overflow(Call call) {
-  try {
-    call();
-    ADD_FAILURE() << "no error";
-  } catch (const Error& error) {
-    EXPECT_EQ(error.number, ErrorNumber::overflow);
-  }
+  EXPECT_EQ(testing::error_of(call).number, ErrorNumber::overflow);
 }
 
 TEST(ParseNumber, ReadsWholeNumbersFractionsAndExponents) {

@@ -1,7 +1,7 @@
 #include "config/ini_test.h"
-#include "platform/expect_error.h"
 #include "platform/files.h"
 #include "platform/memory_files.h"
+#include "support/expect_error.h"
 
 namespace kw {
 namespace {

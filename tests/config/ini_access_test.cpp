@@ -1,5 +1,5 @@
 #include "config/ini_test.h"
-#include "platform/expect_error.h"
+#include "support/expect_error.h"
 
 namespace kw {
 namespace {

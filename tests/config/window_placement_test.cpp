@@ -1,6 +1,6 @@
 #include "config/fake_form.h"
 #include "config/ini_test.h"
-#include "platform/expect_error.h"
+#include "support/expect_error.h"
 
 namespace kw {
 namespace {

@@ -7,9 +7,9 @@
 #include "entry/fake_control.h"
 #include "kwutils/clsDataEdtUtils.h"
 #include "kwutils/collection.h"
-#include "kwutils/error.h"
 #include "kwutils/host.h"
 #include "platform/screen.h"
+#include "support/expect_error.h"
 
 namespace kw {
 namespace {
@@ -132,12 +132,7 @@ TEST_F(OptionTrueIs, TakesMinusOneForTrueAndNoOtherNumber) {
 }
 
 ErrorNumber error_for(const Variant& group) {
-  try {
-    entry.OptionTrueIs(group);
-  } catch (const Error& error) {
-    return error.number;
-  }
-  return ErrorNumber{0};
+  return testing::error_of([&] { entry.OptionTrueIs(group); }).number;
 }
 
 TEST_F(OptionTrueIs, FailsForWhatIsNoGroup) {

@@ -7,8 +7,8 @@
 
 #include "entry/fake_control.h"
 #include "kwutils/clsDataEdtUtils.h"
-#include "kwutils/error.h"
 #include "reference/all_texts.h"
+#include "support/expect_error.h"
 
 namespace kw {
 namespace {
@@ -103,12 +103,7 @@ TEST(IncreDecreInteger, WritesSinglePrecision) {
 }
 
 ErrorNumber error_of_step(std::u16string_view text, std::int16_t key) {
-  try {
-    stepped(text, key);
-  } catch (const Error& error) {
-    return error.number;
-  }
-  return ErrorNumber{0};
+  return testing::error_of([&] { stepped(text, key); }).number;
 }
 
 TEST(IncreDecreInteger, OverflowsBeyond32Bits) {

@@ -5,13 +5,14 @@
 #include <string>
 
 #include "kwutils/clsFileUtil.h"
+#include "support/texts.h"
 
 namespace kw {
 namespace {
 
-const clsFileUtil util;
+using testing::text_of;
 
-std::u16string text_of(const String& text) { return std::u16string(text.view()); }
+const clsFileUtil util;
 
 TEST(FindLastOccurrence, IsWhereTheLastOneEnds) {
   EXPECT_EQ(files::FindLastOccurrence(u"a\\b\\c", u"\\"), 4);

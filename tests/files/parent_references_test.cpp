@@ -6,42 +6,36 @@
 
 #include "files/fake_drives.h"
 #include "files/path_text.h"
-#include "kwutils/error.h"
 #include "reference/all_texts.h"
 #include "reference/random_inputs.h"
+#include "support/expect_error.h"
 
 namespace kw::files {
 namespace {
 
+using testing::number_of;
+
 // What became of a path: the resolved one or the error's number, and how often the user was told.
 struct Outcome {
   std::u16string path;
-  int error = 0;
+  std::int32_t error = 0;
   int messages = 0;
   bool operator==(const Outcome&) const = default;
 };
 
-template <class Resolve>
-void run(Outcome& outcome, Resolve resolve) {
-  try {
-    outcome.path = resolve();
-  } catch (const Error& error) {
-    outcome.error = static_cast<int>(error.number);
-  }
-}
-
 Outcome resolved(std::u16string_view path) {
   testing::FakeDrives host;
   Outcome outcome;
-  run(outcome, [&] { return ResolveParentReferences(path); });
+  outcome.error = number_of([&] { outcome.path = ResolveParentReferences(path); });
   outcome.messages = static_cast<int>(host.messages.size());
   return outcome;
 }
 
 Outcome resolved_by_steps(std::u16string_view path) {
   Outcome outcome;
-  run(outcome,
-      [&] { return reference::resolve_parent_references(std::u16string(path), outcome.messages); });
+  outcome.error = number_of([&] {
+    outcome.path = reference::resolve_parent_references(std::u16string(path), outcome.messages);
+  });
   return outcome;
 }
 

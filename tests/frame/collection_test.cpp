@@ -7,32 +7,20 @@
 #include <vector>
 
 #include "frame/factory.h"
-#include "kwutils/error.h"
+#include "support/expect_error.h"
+#include "support/texts.h"
 
 namespace kw {
 namespace {
 
-template <class Body>
-std::int32_t error_of(Body&& body) {
-  try {
-    body();
-  } catch (const Error& error) {
-    return static_cast<std::int32_t>(error.number);
-  }
-  return 0;
-}
-
-std::vector<std::u16string> texts(const Collection& collection) {
-  std::vector<std::u16string> result;
-  for (std::int32_t i = 1; i <= collection.count(); ++i)
-    result.emplace_back(collection.item(i).text().view());
-  return result;
-}
+using testing::number_of;
+using testing::Texts;
+using testing::texts_of;
 
 TEST(Collection, KeysAreUniqueWithoutRegardToCase) {
   const Collection pumps = Collection::create();
   pumps.add(String(u"first"), u"P1");
-  EXPECT_EQ(error_of([&] { pumps.add(String(u"second"), u"p1"); }), 457);
+  EXPECT_EQ(number_of([&] { pumps.add(String(u"second"), u"p1"); }), 457);
   EXPECT_EQ(pumps.item(u"p1").text().view(), u"first");
   EXPECT_EQ(pumps.count(), 1);
 }
@@ -41,16 +29,16 @@ TEST(Collection, TheEmptyTextIsAKeyLikeAnyOther) {
   const Collection items = Collection::create();
   items.add(String(u"nameless"), u"");
   EXPECT_TRUE(items.holds_text(u""));
-  EXPECT_EQ(error_of([&] { items.add(String(u"again"), u""); }), 457);
+  EXPECT_EQ(number_of([&] { items.add(String(u"again"), u""); }), 457);
 }
 
 TEST(Collection, AbsentKeysAndPositionsAreErrorsOfTheirOwn) {
   const Collection items = Collection::create();
   items.add(String(u"only"));
-  EXPECT_EQ(error_of([&] { items.item(u"x"); }), 5);
-  EXPECT_EQ(error_of([&] { items.item(0); }), 9);
-  EXPECT_EQ(error_of([&] { items.item(2); }), 9);
-  EXPECT_EQ(error_of([&] { Collection().count(); }), 91);
+  EXPECT_EQ(number_of([&] { items.item(u"x"); }), 5);
+  EXPECT_EQ(number_of([&] { items.item(0); }), 9);
+  EXPECT_EQ(number_of([&] { items.item(2); }), 9);
+  EXPECT_EQ(number_of([&] { Collection().count(); }), 91);
 }
 
 TEST(Collection, AnObjectWithoutTextCountsAsNoText) {
@@ -66,11 +54,11 @@ TEST(Collection, LateBoundMembersAnswerLikeTheNativeOnes) {
   items.add(String(u"a"));
   items.object().call(u"add", {&value, &key});
   items.object().call(u"Add", {&key, &missing, &before});
-  EXPECT_EQ(texts(items), (std::vector<std::u16string>{u"k", u"a", u"b"}));
+  EXPECT_EQ(texts_of(items), (Texts{u"k", u"a", u"b"}));
   EXPECT_EQ(items.object().get(u"Count").to_int32(), 3);
   EXPECT_EQ(items.object().call(u"Item", {&key}).text().view(), u"b");
   items.object().call(u"Remove", {&before});
-  EXPECT_EQ(texts(items), (std::vector<std::u16string>{u"a", u"b"}));
+  EXPECT_EQ(texts_of(items), (Texts{u"a", u"b"}));
 }
 
 TEST(Collection, EnumeratesInOrder) {
@@ -121,7 +109,7 @@ TEST(Collection, AgreesWithAPlainListOverRandomChanges) {
     const std::int32_t at = pick();
     ASSERT_EQ(items.item(at).text().view(), plain[static_cast<std::size_t>(at - 1)]);
   }
-  EXPECT_EQ(texts(items), plain);
+  EXPECT_EQ(texts_of(items), plain);
 }
 
 }  // namespace

@@ -140,7 +140,7 @@ TEST(ParseFields, HoldsMoreFieldsThanOneStepOfGrowth) {
 TEST(ParseFields, ALockedArrayIsAnError) {
   Array<String> fields = array_of(0, {u"kept"});
   const ArrayLock lock(fields);
-  EXPECT_EQ(error_of([&] { kParse.ParseFields(u"a", String(), fields); }), 10);
+  EXPECT_EQ(number_of([&] { kParse.ParseFields(u"a", String(), fields); }), 10);
   EXPECT_EQ(texts_of(fields), (Texts{u"kept"}));
 }
 
@@ -192,9 +192,9 @@ TEST(ParseString, AnEmptySeparatorGivesNothing) {
 }
 
 TEST(ParseString, NumbersBelowOneAreInvalid) {
-  EXPECT_EQ(error_of([] { field(u"a,b", u",", 0); }), 5);
-  EXPECT_EQ(error_of([] { field(u"a,b", u",", -3); }), 5);
-  EXPECT_EQ(error_of([] { field(u"", u"", 0); }), 5);
+  EXPECT_EQ(number_of([] { field(u"a,b", u",", 0); }), 5);
+  EXPECT_EQ(number_of([] { field(u"a,b", u",", -3); }), 5);
+  EXPECT_EQ(number_of([] { field(u"", u"", 0); }), 5);
 }
 
 TEST(ParseString, TheNumberIsConverted) {
@@ -203,8 +203,8 @@ TEST(ParseString, TheNumberIsConverted) {
   };
   EXPECT_EQ(at(Variant(u" 2 ")), u"b");
   EXPECT_EQ(at(Variant(2.5)), u"b");
-  EXPECT_EQ(error_of([&] { at(Variant(u"two")); }), 13);
-  EXPECT_EQ(error_of([&] { at(Variant(3e9)); }), 6);
+  EXPECT_EQ(number_of([&] { at(Variant(u"two")); }), 13);
+  EXPECT_EQ(number_of([&] { at(Variant(3e9)); }), 6);
 }
 
 TEST(ParseString, AgreesWithTheStepsOnRandomTexts) {

@@ -73,7 +73,7 @@ Rows rows(std::u16string_view text, std::int32_t count = 0) {
   rows.count = count;
   String entity(text);
   Array<String> array = array_of(7, {u"old", u"old"});
-  rows.error = error_of([&] { rows.result = kParse.ParseTableList(entity, array, rows.count); });
+  rows.error = number_of([&] { rows.result = kParse.ParseTableList(entity, array, rows.count); });
   rows.lower = array.lower();
   rows.table = texts_of(array);
   rows.rest = entity.view();
@@ -156,7 +156,7 @@ TEST(ParseTableList, ALockedArrayIsAnError) {
   const ArrayLock lock(array);
   String entity(u"TBLE 1 < tble");
   std::int32_t count = 0;
-  EXPECT_EQ(error_of([&] { kParse.ParseTableList(entity, array, count); }), 10);
+  EXPECT_EQ(number_of([&] { kParse.ParseTableList(entity, array, count); }), 10);
   EXPECT_EQ(texts_of(array), (Texts{u"kept"}));
   EXPECT_EQ(entity.view(), u"TBLE 1 < tble");
 }

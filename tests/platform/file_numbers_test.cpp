@@ -4,8 +4,8 @@
 
 #include <string>
 
-#include "platform/expect_error.h"
 #include "platform/memory_files.h"
+#include "support/expect_error.h"
 
 namespace kw::platform {
 namespace {

@@ -7,9 +7,9 @@
 #include <thread>
 
 #include "fault/faulty_calls.h"
-#include "platform/expect_error.h"
 #include "platform/memory_files.h"
 #include "platform/temporary_folder.h"
+#include "support/expect_error.h"
 
 namespace kw::platform {
 namespace {

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "platform/expect_error.h"
+#include "support/expect_error.h"
 
 namespace kw::platform {
 namespace {

@@ -4,8 +4,8 @@
 
 #include "fault/faulty_calls.h"
 #include "fault/two_volumes.h"
-#include "platform/expect_error.h"
 #include "platform/replacements.h"
+#include "support/expect_error.h"
 
 namespace kw::platform {
 namespace {

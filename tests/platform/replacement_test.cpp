@@ -1,6 +1,6 @@
 // What a replacement promises on every system.
-#include "platform/expect_error.h"
 #include "platform/replacements.h"
+#include "support/expect_error.h"
 
 namespace kw::platform {
 namespace {

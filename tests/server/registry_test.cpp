@@ -10,13 +10,13 @@
 
 #include "base/unicode.h"
 #include "kwutils/create_object.h"
-#include "kwutils/error.h"
 #include "kwutils/host.h"
 #include "kwutils/variant.h"
 #include "platform/class_loader.h"
 #include "platform/linux/class_file.h"
 #include "server/class_list.h"
 #include "server/registration.h"
+#include "support/expect_error.h"
 
 namespace kw {
 namespace {
@@ -28,7 +28,7 @@ const std::string& library_path() {
   return path;
 }
 
-struct Registry : testing::Test {
+struct Registry : ::testing::Test {
   Registry() {
     folder = fs::temp_directory_path() / ("kwutils-registry-" + std::to_string(getpid()));
     fs::create_directories(folder);
@@ -59,13 +59,9 @@ struct Registry : testing::Test {
 };
 
 std::string error_text(std::u16string_view name) {
-  try {
-    create_object(name);
-  } catch (const Error& error) {
-    EXPECT_EQ(error.number, ErrorNumber::cannot_create_object);
-    return std::string(error.text());
-  }
-  return "";
+  const Error error = testing::error_of([&] { create_object(name); });
+  EXPECT_EQ(error.number, ErrorNumber::cannot_create_object);
+  return std::string(error.text());
 }
 
 TEST_F(Registry, EveryClassIsCreatedByNameAndByIdentifier) {

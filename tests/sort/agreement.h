@@ -7,28 +7,18 @@
 #include <cstring>
 #include <vector>
 
-#include "kwutils/error.h"
 #include "reference/quicksort_scheme.h"
 #include "sort/bounded.h"
+#include "support/expect_error.h"
 
 namespace kw::sort {
 
 using reference::BasedArray;
+using testing::number_of;
 
 template <class T>
 Bounded<T> bounded(BasedArray<T>& array) {
   return {array.values.data(), array.lower, array.upper()};
-}
-
-// The number of the error that `body` throws; 0 when it throws none.
-template <class Body>
-int error_of(Body body) {
-  try {
-    body();
-  } catch (const Error& error) {
-    return static_cast<int>(error.number);
-  }
-  return 0;
 }
 
 template <class T>
@@ -43,8 +33,8 @@ void expect_agreement(const BasedArray<T>& values, const BasedArray<std::int32_t
                       Scheme scheme, Sort sort) {
   BasedArray<T> expected = values, sorted = values;
   BasedArray<std::int32_t> expected_order = order, sorted_order = order;
-  const int expected_error = error_of([&] { scheme(expected, expected_order); });
-  ASSERT_EQ(error_of([&] { sort(sorted, sorted_order); }), expected_error);
+  const std::int32_t expected_error = number_of([&] { scheme(expected, expected_order); });
+  ASSERT_EQ(number_of([&] { sort(sorted, sorted_order); }), expected_error);
   ASSERT_TRUE(same_bits(sorted.values, expected.values)) << "values, size " << values.values.size();
   ASSERT_TRUE(same_bits(sorted_order.values, expected_order.values))
       << "order array, size " << values.values.size() << ", lower bound " << values.lower;

@@ -5,14 +5,17 @@
 #include <string>
 #include <vector>
 
-#include "kwutils/error.h"
 #include "sort/description.h"
+#include "support/expect_error.h"
+#include "support/texts.h"
 
 namespace kw {
 namespace {
 
 using Indexes = std::vector<std::int32_t>;
-using Texts = std::vector<std::u16string>;
+using testing::number_of;
+using testing::Texts;
+using testing::texts_of;
 
 const clsQSort kSort;
 
@@ -21,26 +24,8 @@ std::vector<T> values_of(const Array<T>& array) {
   return {array.elements().begin(), array.elements().end()};
 }
 
-Texts texts_of(const Array<String>& array) {
-  Texts texts;
-  for (const String& element : array.elements()) texts.emplace_back(element.view());
-  return texts;
-}
-
 Array<String> strings(const Texts& texts, std::int32_t lower = 0) {
-  std::vector<String> elements;
-  for (const std::u16string& text : texts) elements.emplace_back(text);
-  return Array<String>::of(lower, std::move(elements));
-}
-
-template <class Body>
-int error_of(Body body) {
-  try {
-    body();
-  } catch (const Error& error) {
-    return static_cast<int>(error.number);
-  }
-  return 0;
+  return testing::array_of(lower, texts);
 }
 
 // The members for one element type of numbers.
@@ -84,7 +69,7 @@ struct Members<std::int32_t> {
 };
 
 template <class T>
-class QSort : public testing::Test {
+class QSort : public ::testing::Test {
  protected:
   using Of = Members<T>;
   using Values = std::vector<T>;
@@ -94,7 +79,7 @@ class QSort : public testing::Test {
   }
 };
 
-using Numbers = testing::Types<double, float, std::int16_t, std::int32_t>;
+using Numbers = ::testing::Types<double, float, std::int16_t, std::int32_t>;
 TYPED_TEST_SUITE(QSort, Numbers, );
 
 TYPED_TEST(QSort, SortsInPlace) {
@@ -179,15 +164,15 @@ TYPED_TEST(QSort, MembersRaiseSubscriptErrors) {
   Array<TypeParam> never;
   auto values = this->array({3, 1});
   Array<std::int32_t> none;
-  EXPECT_EQ(error_of([&] { (kSort.*TestFixture::Of::ascending)(never); }), 9);
-  EXPECT_EQ(error_of([&] { (kSort.*TestFixture::Of::descending_index)(never, none); }), 9);
-  EXPECT_EQ(error_of([&] { (kSort.*TestFixture::Of::ascending_index)(values, none); }), 9);
+  EXPECT_EQ(number_of([&] { (kSort.*TestFixture::Of::ascending)(never); }), 9);
+  EXPECT_EQ(number_of([&] { (kSort.*TestFixture::Of::descending_index)(never, none); }), 9);
+  EXPECT_EQ(number_of([&] { (kSort.*TestFixture::Of::ascending_index)(values, none); }), 9);
   EXPECT_EQ(values_of(values), (typename TestFixture::Values{1, 3}));
 }
 
 TYPED_TEST(QSort, MembersRaiseOverflowErrors) {
   auto values = this->array({3, 1}, INT32_MAX - 1);
-  EXPECT_EQ(error_of([&] { (kSort.*TestFixture::Of::ascending)(values); }), 6);
+  EXPECT_EQ(number_of([&] { (kSort.*TestFixture::Of::ascending)(values); }), 6);
   EXPECT_FALSE((kSort.*TestFixture::Of::sort)(values, false));
 }
 
@@ -260,8 +245,8 @@ TEST(QSort, StringIndexLeavesTheStrings) {
 TEST(QSort, OtherCompareMethodsAreInvalidArguments) {
   auto values = strings({u"b", u"a"});
   Array<std::int32_t> order;
-  EXPECT_EQ(error_of([&] { kSort.sQSortNRAsc(values, 2); }), 5);
-  EXPECT_EQ(error_of([&] { kSort.sQSortNRDesIndex(values, order, -1); }), 5);
+  EXPECT_EQ(number_of([&] { kSort.sQSortNRAsc(values, 2); }), 5);
+  EXPECT_EQ(number_of([&] { kSort.sQSortNRDesIndex(values, order, -1); }), 5);
   EXPECT_FALSE(kSort.sQSort(values, false, 2));
   EXPECT_FALSE(kSort.sQSortIndex(values, order, false, 2));
   EXPECT_EQ(texts_of(values), (Texts{u"b", u"a"}));
@@ -269,7 +254,7 @@ TEST(QSort, OtherCompareMethodsAreInvalidArguments) {
 
 TEST(QSort, WithoutStringsTheCompareMethodIsNotLookedAt) {
   Array<String> never;
-  EXPECT_EQ(error_of([&] { kSort.sQSortNRAsc(never, 2); }), 9);
+  EXPECT_EQ(number_of([&] { kSort.sQSortNRAsc(never, 2); }), 9);
 }
 
 TEST(QSort, ThirtyMethodsHaveTheirPublishedNumbers) {

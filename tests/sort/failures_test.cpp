@@ -13,18 +13,18 @@ namespace {
 using Integers = BasedArray<std::int32_t>;
 using Values = std::vector<std::int32_t>;
 
-int sort_alone(Integers& values) {
-  return error_of([&] { sort_numbers<Direction::ascending>(bounded(values)); });
+std::int32_t sort_alone(Integers& values) {
+  return number_of([&] { sort_numbers<Direction::ascending>(bounded(values)); });
 }
 
-int sort_with_order(Integers& values, Integers& order) {
-  return error_of([&] { sort_numbers<Direction::ascending>(bounded(values), bounded(order)); });
+std::int32_t sort_with_order(Integers& values, Integers& order) {
+  return number_of([&] { sort_numbers<Direction::ascending>(bounded(values), bounded(order)); });
 }
 
 TEST(FailingSort, AnArrayWithoutElementsIsASubscriptError) {
   Integers empty{3, {}};
   EXPECT_EQ(sort_alone(empty), 9);
-  EXPECT_EQ(error_of([] { sort_numbers<Direction::ascending>(Bounded<double>{}); }), 9);
+  EXPECT_EQ(number_of([] { sort_numbers<Direction::ascending>(Bounded<double>{}); }), 9);
 }
 
 TEST(FailingSort, BoundsWithoutASumAreAnOverflow) {
@@ -68,7 +68,7 @@ TEST(FailingSort, AnArrayThatIsItsOwnOrderArrayIsSwappedTwice) {
   reference::for_random_inputs(4, [&](Random& random) {
     const Integers values = pick_array<std::int32_t>(random, 40);
     Integers expected = values, sorted = values;
-    const int error = error_of([&] { reference::quicksort(expected, &expected, less); });
+    const std::int32_t error = number_of([&] { reference::quicksort(expected, &expected, less); });
     ASSERT_EQ(sort_with_order(sorted, sorted), error);
     ASSERT_EQ(sorted.values, values.values);
   });

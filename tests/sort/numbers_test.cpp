@@ -41,9 +41,9 @@ void expect_agreement_both_ways(const BasedArray<T>& values) {
 }
 
 template <class T>
-class SortNumbers : public testing::Test {};
+class SortNumbers : public ::testing::Test {};
 
-using Numbers = testing::Types<double, float, std::int16_t, std::int32_t>;
+using Numbers = ::testing::Types<double, float, std::int16_t, std::int32_t>;
 TYPED_TEST_SUITE(SortNumbers, Numbers, );
 
 TYPED_TEST(SortNumbers, AgreesWithTheSchemeOnRandomArrays) {

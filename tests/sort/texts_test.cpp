@@ -136,7 +136,7 @@ TEST(SortTexts, CaseAtTheEndOfLongTextsIsFound) {
 
 TEST(SortTexts, NoTextsAreASubscriptError) {
   const Order how{Direction::ascending, CompareMethod::text};
-  EXPECT_EQ(error_of([&] { sort_texts(Bounded<Text>{}, how); }), 9);
+  EXPECT_EQ(number_of([&] { sort_texts(Bounded<Text>{}, how); }), 9);
 }
 
 TEST(SortTexts, AShortOrderArrayIsASubscriptErrorAfterTheFirstSwap) {
@@ -144,7 +144,7 @@ TEST(SortTexts, AShortOrderArrayIsASubscriptErrorAfterTheFirstSwap) {
   BasedArray<Text> values{0, {&b, &a}};
   BasedArray<std::int32_t> order{0, {0}};
   const Order how{Direction::ascending, CompareMethod::text};
-  EXPECT_EQ(error_of([&] { sort_texts(bounded(values), bounded(order), how); }), 9);
+  EXPECT_EQ(number_of([&] { sort_texts(bounded(values), bounded(order), how); }), 9);
   EXPECT_EQ(*values.values.front(), u"a");
 }
 

@@ -5,12 +5,13 @@
 #include <filesystem>
 
 #include "kwutils/clsFileReadWrite.h"
-#include "kwutils/error.h"
 #include "platform/temporary_folder.h"
+#include "support/expect_error.h"
 
 namespace kw::store {
 namespace {
 
+using kw::testing::number_of;
 using kw::testing::TemporaryFolder;
 using namespace std::string_literals;
 
@@ -22,16 +23,6 @@ constexpr std::size_t kLongLine = 100'000'000;
 
 class BadInput : public ::testing::Test {
  protected:
-  template <class Call>
-  static std::int32_t error_of(Call call) {
-    try {
-      call();
-    } catch (const Error& error) {
-      return static_cast<std::int32_t>(error.number);
-    }
-    return 0;
-  }
-
   void write_entity(std::u16string_view id, std::u16string_view entity) {
     String name(file_.view());
     store_.WriteEntity(name, node_, String(id), String(entity));
@@ -49,15 +40,15 @@ class BadInput : public ::testing::Test {
     String written(name), token(u"node");
     Collection found;
     Array<String> rows;
-    EXPECT_EQ(error_of([&] { store_.GetEntity(file, node_, u"1"); }), reading);
-    EXPECT_EQ(error_of([&] { store_.GetEntityWithoutTable(file, node_, u"1"); }), reading);
-    EXPECT_EQ(error_of([&] { store_.GetEntities(file, node_, rows); }), reading);
-    EXPECT_EQ(error_of([&] { store_.GetTableEntry(file, node_, node_, u"1", rows); }), reading);
-    EXPECT_EQ(error_of([&] { store_.GetEntityIDsIntoColl(file, node_, found); }), reading);
-    EXPECT_EQ(error_of([&] { store_.GetNewID(file, token); }), reading);
-    EXPECT_EQ(error_of([&] { store_.WriteEntity(written, node_, node_, node_); }), writing);
-    EXPECT_EQ(error_of([&] { store_.DeleteEntity(written, node_, node_); }), writing);
-    EXPECT_EQ(error_of([&] { store_.WriteRtnFile(file); }), 0);
+    EXPECT_EQ(number_of([&] { store_.GetEntity(file, node_, u"1"); }), reading);
+    EXPECT_EQ(number_of([&] { store_.GetEntityWithoutTable(file, node_, u"1"); }), reading);
+    EXPECT_EQ(number_of([&] { store_.GetEntities(file, node_, rows); }), reading);
+    EXPECT_EQ(number_of([&] { store_.GetTableEntry(file, node_, node_, u"1", rows); }), reading);
+    EXPECT_EQ(number_of([&] { store_.GetEntityIDsIntoColl(file, node_, found); }), reading);
+    EXPECT_EQ(number_of([&] { store_.GetNewID(file, token); }), reading);
+    EXPECT_EQ(number_of([&] { store_.WriteEntity(written, node_, node_, node_); }), writing);
+    EXPECT_EQ(number_of([&] { store_.DeleteEntity(written, node_, node_); }), writing);
+    EXPECT_EQ(number_of([&] { store_.WriteRtnFile(file); }), 0);
   }
 
   TemporaryFolder folder_;
@@ -90,7 +81,7 @@ TEST_F(BadInput, AnIdentifierOfAMegabyteIsAnIdentifier) {
   EXPECT_TRUE(store_.GetEntityIDsIntoColl(file_, node_, ids));
   EXPECT_TRUE(store_.IsIdInCollection(ids, id));
   String token(u"node");
-  EXPECT_EQ(error_of([&] { store_.GetNewID(file_, token); }), 6);
+  EXPECT_EQ(number_of([&] { store_.GetNewID(file_, token); }), 6);
 }
 
 TEST_F(BadInput, OnlyCarriageReturnsAreEmptyLines) {
@@ -148,11 +139,11 @@ TEST_F(BadInput, AnEmptyNameIsImpossible) { expect_errors(u"", 52, 5); }
 
 TEST_F(BadInput, AFileThatOpensButCannotBeReadIsAnInputError) {
   const String memory(u"/proc/self/mem");
-  EXPECT_EQ(error_of([&] { store_.GetEntity(memory, node_, u"1"); }), 57);
-  EXPECT_EQ(error_of([&] { store_.GetTokenEntity(memory, node_); }), 57);
+  EXPECT_EQ(number_of([&] { store_.GetEntity(memory, node_, u"1"); }), 57);
+  EXPECT_EQ(number_of([&] { store_.GetTokenEntity(memory, node_); }), 57);
   Collection found, wanted;
   EXPECT_FALSE(store_.GetEntitiesIntoColl(memory, node_, found));
-  EXPECT_EQ(error_of([&] { store_.GetEntitiesWithCollection(memory, node_, found, wanted); }),
+  EXPECT_EQ(number_of([&] { store_.GetEntitiesWithCollection(memory, node_, found, wanted); }),
             10001);
 }
 

@@ -9,13 +9,14 @@
 #include "kwutils/error.h"
 #include "reference/all_texts.h"
 #include "reference/random_inputs.h"
+#include "support/texts.h"
 
 namespace kw {
 namespace {
 
-const clsStringUtil util;
+using testing::text_of;
 
-std::u16string text_of(const String& text) { return std::u16string(text.view()); }
+const clsStringUtil util;
 
 // What a call gives; nothing when it overflows.
 using Outcome = std::optional<std::u16string>;

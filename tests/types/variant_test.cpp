@@ -2,10 +2,12 @@
 
 #include <gtest/gtest.h>
 
-#include "kwutils/error.h"
+#include "support/expect_error.h"
 
 namespace kw {
 namespace {
+
+using testing::error_of;
 
 TEST(Variant, MissingIsNotEmptyAndHasNoText) {
   const Variant missing = Variant::missing();
@@ -34,18 +36,8 @@ TEST(Variant, NumbersRoundHalvesToEven) {
 TEST(Variant, TruthReadsAsAWord) { EXPECT_EQ(Variant(Boolean(true)).text().view(), u"True"); }
 
 TEST(Variant, OverflowAndMismatchAreErrorsOfTheirOwn) {
-  try {
-    Variant(40000.0).to_int16();
-    FAIL();
-  } catch (const Error& error) {
-    EXPECT_EQ(error.number, ErrorNumber::overflow);
-  }
-  try {
-    Variant(u"pump").to_int32();
-    FAIL();
-  } catch (const Error& error) {
-    EXPECT_EQ(error.number, ErrorNumber::type_mismatch);
-  }
+  EXPECT_EQ(error_of([] { Variant(40000.0).to_int16(); }).number, ErrorNumber::overflow);
+  EXPECT_EQ(error_of([] { Variant(u"pump").to_int32(); }).number, ErrorNumber::type_mismatch);
 }
 
 TEST(Variant, StoreWritesIntoTheVariableReferredTo) {

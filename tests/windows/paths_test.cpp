@@ -2,9 +2,9 @@
 
 #include <gtest/gtest.h>
 
-#include "platform/expect_error.h"
 #include "platform/temporary_folder.h"
 #include "platform/windows/system.h"
+#include "support/expect_error.h"
 
 namespace kw::platform {
 namespace {

@@ -2,9 +2,9 @@
 #include <atomic>
 #include <thread>
 
-#include "platform/expect_error.h"
 #include "platform/replacements.h"
 #include "platform/windows/system.h"
+#include "support/expect_error.h"
 
 namespace kw::platform {
 namespace {
