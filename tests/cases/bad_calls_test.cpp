@@ -32,7 +32,7 @@ VARTYPE element_of(const Variant& array) {
   return static_cast<VARTYPE>(array.raw().vt & kVtTypeMask);
 }
 
-class BadCalls : public testing::Test {
+class BadCalls : public ::testing::Test {
  protected:
   BadCaller caller_;
 };

@@ -4,20 +4,23 @@
 
 #include <cstddef>
 #include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
 #include "base/compare_text.h"
-#include "kwutils/automation.h"
 #include "kwutils/object.h"
 #include "kwutils/variant.h"
+#include "support/fake_dispatch.h"
+#include "support/texts.h"
 
 namespace kw::testing {
 
 // Lives on the stack; every reference to it must be gone before it is.
-class FakeControl final : public IDispatch {
+class FakeControl final : public FakeDispatch {
  public:
-  explicit FakeControl(std::vector<std::u16string> names) : names_(std::move(names)) {
+  explicit FakeControl(std::vector<std::u16string> names)
+      : FakeDispatch(0), names_(std::move(names)) {
     values_.resize(names_.size());
   }
   Object object() { return Object::share(this); }
@@ -26,31 +29,7 @@ class FakeControl final : public IDispatch {
 
   std::vector<std::u16string> log;  // "get Text", "set Text=1", "line(22,0,...)"
   std::u16string default_property;  // none when empty
-  std::int32_t references = 0;
 
-  HRESULT KW_STDCALL QueryInterface(const GUID& iid, void** object) override {
-    *object = nullptr;
-    if (iid != kIidUnknown && iid != kIidDispatch) return status::kNoInterface;
-    *object = static_cast<IDispatch*>(this);
-    AddRef();
-    return status::kOk;
-  }
-  std::uint32_t KW_STDCALL AddRef() override { return static_cast<std::uint32_t>(++references); }
-  std::uint32_t KW_STDCALL Release() override { return static_cast<std::uint32_t>(--references); }
-  HRESULT KW_STDCALL GetTypeInfoCount(std::uint32_t* count) override {
-    *count = 0;
-    return status::kOk;
-  }
-  HRESULT KW_STDCALL GetTypeInfo(std::uint32_t, LCID, ITypeInfo**) override {
-    return status::kNotImplemented;
-  }
-  HRESULT KW_STDCALL GetIDsOfNames(const GUID&, OLECHAR** names, std::uint32_t, LCID,
-                                   DISPID* ids) override {
-    const std::size_t index = index_of(names[0]);
-    if (index == names_.size()) return status::kUnknownName;
-    ids[0] = static_cast<DISPID>(index) + 1;
-    return status::kOk;
-  }
   HRESULT KW_STDCALL Invoke(DISPID member, const GUID&, LCID, std::uint16_t flags,
                             DISPPARAMS* parameters, VARIANT* result, EXCEPINFO*,
                             std::uint32_t*) override {
@@ -69,8 +48,12 @@ class FakeControl final : public IDispatch {
     while (index < names_.size() && !equal_text(names_[index], name)) ++index;
     return index;
   }
+  DISPID id_of(std::u16string_view name) const override {
+    const std::size_t index = index_of(name);
+    return index == names_.size() ? kDispidUnknown : static_cast<DISPID>(index) + 1;
+  }
   static std::u16string text_of(const VARIANT& value) {
-    return std::u16string(Variant::copy_of(value).text().view());
+    return testing::text_of(Variant::copy_of(value).text());
   }
   HRESULT default_value(VARIANT* result) {
     if (default_property.empty()) return status::kMemberNotFound;

@@ -23,7 +23,7 @@ TEST(FocusMe, SelectsTheWholeText) {
   FakeControl box = testing::make_text_box(u"pump");
   entry.FocusMe(box.object());
   EXPECT_EQ(box.log, (Log{u"set SelStart=0", u"set SelLength=4"}));
-  EXPECT_EQ(box.references, 0);
+  EXPECT_EQ(box.references, 0u);
 }
 
 TEST(FocusMe, LeavesOtherObjectsAlone) {
@@ -88,7 +88,7 @@ TEST_F(Dither, PreparesTheFormAndDraws256Bands) {
                             u"set DrawWidth=2", u"set ScaleHeight=256",
                             u"Line(22,0,0,15360,-1,16711680)", u"Line(22,0,1,15360,0,16646144)"}));
   EXPECT_EQ(form.log.back(), u"Line(22,0,255,15360,254,0)");
-  EXPECT_EQ(form.references, 0);
+  EXPECT_EQ(form.references, 0u);
 }
 
 TEST_F(Dither, LeavesOtherObjectsAlone) {

@@ -9,6 +9,7 @@
 #include "kwutils/clsDataEdtUtils.h"
 #include "reference/all_texts.h"
 #include "support/expect_error.h"
+#include "support/texts.h"
 
 namespace kw {
 namespace {
@@ -16,7 +17,7 @@ namespace {
 const clsDataEdtUtils entry;
 
 std::u16string changed(std::u16string_view text) {
-  return std::u16string(entry.CheckRealChange(text).view());
+  return testing::text_of(entry.CheckRealChange(text));
 }
 
 TEST(CheckRealChange, MovesTheMinusToTheFront) {
@@ -60,8 +61,8 @@ TEST(CheckRealChange, AgreesWithItsStepsOnAllShortTexts) {
 std::u16string stepped(std::u16string_view text, std::int16_t key, std::int16_t shift = 0) {
   testing::FakeControl box = testing::make_text_box(text);
   entry.IncreDecreInteger(box.object(), key, shift);
-  EXPECT_EQ(box.references, 0);
-  return std::u16string(box.value(u"Text").text().view());
+  EXPECT_EQ(box.references, 0u);
+  return testing::text_of(box.value(u"Text").text());
 }
 
 constexpr std::int16_t kPageUp = 33;

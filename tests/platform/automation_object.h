@@ -1,15 +1,15 @@
 // Objects for the tests of the automation functions: they count their references on the stack.
 #pragma once
 
-#include "kwutils/automation.h"
+#include "support/fake_dispatch.h"
 
 namespace kw::test {
 
 // An object with a default value (its dispatch number 0), or without one.
-class ValueObject final : public IDispatch {
+class ValueObject final : public testing::FakeDispatch {
  public:
-  ValueObject() = default;
-  explicit ValueObject(const VARIANT& value) { set_value(value); }
+  ValueObject() : FakeDispatch(1) {}
+  explicit ValueObject(const VARIANT& value) : ValueObject() { set_value(value); }
 
   // Borrows what the value holds.
   void set_value(const VARIANT& value) {
@@ -17,29 +17,8 @@ class ValueObject final : public IDispatch {
     has_value_ = true;
   }
 
-  std::uint32_t references = 1;
   std::uint32_t reads = 0;
 
-  HRESULT KW_STDCALL QueryInterface(const GUID& iid, void** object) override {
-    *object = nullptr;
-    if (iid != kIidUnknown && iid != kIidDispatch) return status::kNoInterface;
-    *object = static_cast<IDispatch*>(this);
-    AddRef();
-    return status::kOk;
-  }
-  std::uint32_t KW_STDCALL AddRef() override { return ++references; }
-  std::uint32_t KW_STDCALL Release() override { return --references; }
-
-  HRESULT KW_STDCALL GetTypeInfoCount(std::uint32_t* count) override {
-    *count = 0;
-    return status::kOk;
-  }
-  HRESULT KW_STDCALL GetTypeInfo(std::uint32_t, LCID, ITypeInfo**) override {
-    return status::kNotImplemented;
-  }
-  HRESULT KW_STDCALL GetIDsOfNames(const GUID&, OLECHAR**, std::uint32_t, LCID, DISPID*) override {
-    return status::kUnknownName;
-  }
   HRESULT KW_STDCALL Invoke(DISPID member, const GUID&, LCID, std::uint16_t flags, DISPPARAMS*,
                             VARIANT* result, EXCEPINFO*, std::uint32_t*) override {
     ++reads;
@@ -50,6 +29,8 @@ class ValueObject final : public IDispatch {
   }
 
  private:
+  DISPID id_of(std::u16string_view) const override { return kDispidUnknown; }
+
   VARIANT value_{};
   bool has_value_ = false;
 };

@@ -1,6 +1,5 @@
 #include "fake_objects.h"
 
-#include <algorithm>
 #include <cmath>
 
 #include "fields.h"
@@ -124,7 +123,7 @@ Json json_of(const VARIANT& raw) {
 }
 
 FakeObject::FakeObject(const std::string& kind, const Json& properties)
-    : names_(names_of(kind)), default_is_text_(kind == "textbox") {
+    : FakeDispatch(1), names_(names_of(kind)), default_is_text_(kind == "textbox") {
   if (!properties.is_object()) throw Malformed("the properties of an object: no JSON object");
   for (const auto& [name, value] : properties.items()) values_[name] = variant_of(value);
 }
@@ -132,31 +131,15 @@ FakeObject::FakeObject(const std::string& kind, const Json& properties)
 FakeObject::~FakeObject() = default;
 
 std::uint32_t FakeObject::Release() {
-  const std::uint32_t left = --references_;
+  const std::uint32_t left = FakeDispatch::Release();
   if (left == 0) delete this;
   return left;
 }
 
-HRESULT FakeObject::QueryInterface(const GUID& iid, void** object) {
-  const bool known = iid == kIidUnknown || iid == kIidDispatch;
-  *object = known ? this : nullptr;
-  if (known) AddRef();
-  return known ? status::kOk : status::kNoInterface;
-}
-
-HRESULT FakeObject::GetTypeInfoCount(std::uint32_t* count) {
-  *count = 0;
-  return status::kOk;
-}
-
-HRESULT FakeObject::GetTypeInfo(std::uint32_t, LCID, ITypeInfo**) { return status::kBadIndex; }
-
-HRESULT FakeObject::GetIDsOfNames(const GUID&, OLECHAR** names, std::uint32_t count, LCID,
-                                  DISPID* ids) {
-  std::fill_n(ids, count, kDispidUnknown);
+DISPID FakeObject::id_of(std::u16string_view name) const {
   for (std::size_t i = 0; i < names_.size(); ++i)
-    if (frame::same_name(names[0], names_[i])) ids[0] = static_cast<DISPID>(i + 1);
-  return ids[0] != kDispidUnknown ? status::kOk : status::kUnknownName;
+    if (frame::same_name(name, names_[i])) return static_cast<DISPID>(i + 1);
+  return kDispidUnknown;
 }
 
 HRESULT FakeObject::get(const std::string& name, VARIANT* result) {

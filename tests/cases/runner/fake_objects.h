@@ -8,9 +8,9 @@
 #include <vector>
 
 #include "json_text.h"
-#include "kwutils/automation.h"
 #include "kwutils/object.h"
 #include "kwutils/variant.h"
+#include "support/fake_dispatch.h"
 
 namespace kw::cases {
 
@@ -19,7 +19,7 @@ using Log = std::vector<Json>;
 
 // An object that answers to the names of its kind, and to nothing else. Reading a property that has
 // no value is error 438.
-class FakeObject : public IDispatch {
+class FakeObject : public testing::FakeDispatch {
  public:
   // `kind`: textbox, label, form, picture, option, or "" for an object that answers to nothing.
   // Throws Malformed for any other.
@@ -29,18 +29,13 @@ class FakeObject : public IDispatch {
   const Log& log() const { return log_; }
   const std::map<std::string, Variant>& properties() const { return values_; }
 
-  HRESULT KW_STDCALL QueryInterface(const GUID& iid, void** object) override;
-  std::uint32_t KW_STDCALL AddRef() override { return ++references_; }
   std::uint32_t KW_STDCALL Release() override;
-  HRESULT KW_STDCALL GetTypeInfoCount(std::uint32_t* count) override;
-  HRESULT KW_STDCALL GetTypeInfo(std::uint32_t, LCID, ITypeInfo**) override;
-  HRESULT KW_STDCALL GetIDsOfNames(const GUID&, OLECHAR** names, std::uint32_t count, LCID,
-                                   DISPID* ids) override;
   HRESULT KW_STDCALL Invoke(DISPID member, const GUID&, LCID, std::uint16_t flags,
                             DISPPARAMS* parameters, VARIANT* result, EXCEPINFO* exception,
                             std::uint32_t* bad_argument) override;
 
  private:
+  DISPID id_of(std::u16string_view name) const override;
   HRESULT get(const std::string& name, VARIANT* result);
   HRESULT call(const DISPPARAMS& parameters);
 
@@ -48,7 +43,6 @@ class FakeObject : public IDispatch {
   std::map<std::string, Variant> values_;
   bool default_is_text_ = false;
   Log log_;
-  std::uint32_t references_ = 1;
 };
 
 // A group of option controls, for a host's "for each".
