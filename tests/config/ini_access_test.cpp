@@ -1,5 +1,6 @@
 #include "config/ini_test.h"
 #include "support/expect_error.h"
+#include "support/texts.h"
 
 namespace kw {
 namespace {
@@ -9,7 +10,7 @@ using Ini = testing::IniTest;
 class GetIni : public Ini {
  protected:
   std::u16string get(std::u16string_view file, std::u16string_view fallback = u"d") {
-    return std::u16string(ini_.GetIni(u"s", u"k", fallback, file).view());
+    return testing::text_of(ini_.GetIni(u"s", u"k", fallback, file));
   }
 };
 

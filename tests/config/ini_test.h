@@ -10,6 +10,7 @@
 
 #include "kwutils/clsIni.h"
 #include "kwutils/host.h"
+#include "kwutils/string.h"
 #include "platform/temporary_folder.h"
 
 namespace kw::testing {
@@ -31,8 +32,7 @@ class IniTest : public ::testing::Test {
       *height = static_cast<IniTest*>(context)->screen_height_;
     };
     host.windows_directory = [](void* context) KW_STDCALL {
-      const std::u16string name = static_cast<IniTest*>(context)->folder_.name("windows");
-      return SysAllocStringLen(name.data(), static_cast<unsigned>(name.size()));
+      return String(static_cast<IniTest*>(context)->folder_.name("windows")).release();
     };
     set_host(host);
   }

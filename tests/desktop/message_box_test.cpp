@@ -3,8 +3,8 @@
 
 #include "desktop/box_watch.h"
 #include "desktop/host_window.h"
-#include "kwutils/string.h"
 #include "kwutils/variant.h"
+#include "support/texts.h"
 #include "windows/built_library.h"
 
 namespace kw::testing {
@@ -13,7 +13,7 @@ namespace {
 // Names a drive that is not there, which the library asks the user about.
 std::u16string make_absolute_on_a_missing_drive() {
   const Variant path(u"Q:x.txt");
-  return std::u16string(built_object("clsFileUtil").call(u"MakeAbsolute", {&path}).text().view());
+  return text_of(built_object("clsFileUtil").call(u"MakeAbsolute", {&path}).text());
 }
 
 // Asks for a key that is not there, which the library tells the user before it goes on.
@@ -21,7 +21,7 @@ std::u16string read_a_missing_key() {
   const Variant section(u"s"), key(u"k"), type(u"string"), file(u".");
   const Variant value =
       built_object("clsIni").call(u"GetIniAndCheck", {&section, &key, &type, &file});
-  return std::u16string(value.text().view());
+  return text_of(value.text());
 }
 
 TEST(BoxOnAScreen, IsModalToTheActiveWindow) {

@@ -11,6 +11,7 @@
 #include "base/case_map.h"
 #include "kwutils/error.h"
 #include "kwutils/host.h"
+#include "kwutils/string.h"
 
 namespace kw::testing {
 
@@ -26,11 +27,13 @@ class FakeDrives {
     host.change_drive = [](void* context, char16_t letter)
                             KW_STDCALL { return self(context).change(letter); };
     host.current_directory = [](void* context) KW_STDCALL {
-      return text_of(self(context).directories[self(context).drive]);
+      return String(self(context).directories[self(context).drive]).release();
     };
-    host.module_directory = [](void* context)
-                                KW_STDCALL { return text_of(self(context).module_directory); };
-    host.module_name = [](void* context) KW_STDCALL { return text_of(self(context).module_name); };
+    host.module_directory = [](void* context) KW_STDCALL {
+      return String(self(context).module_directory).release();
+    };
+    host.module_name = [](void* context)
+                           KW_STDCALL { return String(self(context).module_name).release(); };
     set_host(host);
   }
   FakeDrives(const FakeDrives&) = delete;
@@ -49,9 +52,6 @@ class FakeDrives {
 
  private:
   static FakeDrives& self(void* context) { return *static_cast<FakeDrives*>(context); }
-  static BSTR text_of(const std::u16string& text) {
-    return SysAllocStringLen(text.data(), static_cast<unsigned>(text.size()));
-  }
 
   MessageAnswer answer(std::u16string text, MessageButtons buttons) {
     messages.push_back(std::move(text));

@@ -1,24 +1,9 @@
-#include <gtest/gtest.h>
-
-#include <string>
-#include <vector>
-
-#include "files/fake_drives.h"
-#include "kwutils/clsFileUtil.h"
+#include "files/path_test.h"
 
 namespace kw {
 namespace {
 
-using Messages = std::vector<std::u16string>;
-
-struct MakeAbsolute : ::testing::Test {
-  std::u16string absolute(std::u16string_view path, const Variant& indicator = Variant::missing()) {
-    return std::u16string(util.MakeAbsolute(String(path), indicator).view());
-  }
-
-  testing::FakeDrives host;
-  clsFileUtil util;
-};
+using MakeAbsolute = testing::PathTest;
 
 TEST_F(MakeAbsolute, TakesAPathFromTheCurrentDirectory) {
   EXPECT_EQ(absolute(u"data\\in.txt"), u"C:\\work\\data\\in.txt");

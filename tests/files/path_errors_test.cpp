@@ -1,32 +1,14 @@
 // What the user is asked when a step fails, and what becomes of the answers.
-#include <gtest/gtest.h>
-
-#include <string>
-#include <vector>
-
-#include "files/fake_drives.h"
-#include "kwutils/clsFileUtil.h"
+#include "files/path_test.h"
 
 namespace kw {
 namespace {
 
-using Messages = std::vector<std::u16string>;
+using PathErrors = testing::PathTest;
 
 constexpr MessageAnswer kAbort = MessageAnswer::abort;
 constexpr MessageAnswer kRetry = MessageAnswer::retry;
 constexpr MessageAnswer kIgnore = MessageAnswer::ignore;
-
-struct PathErrors : ::testing::Test {
-  std::u16string absolute(std::u16string_view path, const Variant& indicator = Variant::missing()) {
-    return std::u16string(util.MakeAbsolute(String(path), indicator).view());
-  }
-  std::u16string relative(std::u16string_view path, const Variant& indicator = Variant::missing()) {
-    return std::u16string(util.UnMakeAbsolute(String(path), indicator).view());
-  }
-
-  testing::FakeDrives host;
-  clsFileUtil util;
-};
 
 TEST_F(PathErrors, NameTheMethodAndTheError) {
   host.failing = {u'E'};

@@ -1,24 +1,9 @@
-#include <gtest/gtest.h>
-
-#include <string>
-#include <vector>
-
-#include "files/fake_drives.h"
-#include "kwutils/clsFileUtil.h"
+#include "files/path_test.h"
 
 namespace kw {
 namespace {
 
-using Messages = std::vector<std::u16string>;
-
-struct UnMakeAbsolute : ::testing::Test {
-  std::u16string relative(std::u16string_view path, const Variant& indicator = Variant::missing()) {
-    return std::u16string(util.UnMakeAbsolute(String(path), indicator).view());
-  }
-
-  testing::FakeDrives host;
-  clsFileUtil util;
-};
+using UnMakeAbsolute = testing::PathTest;
 
 TEST_F(UnMakeAbsolute, TakesTheFolderOfTheIndicatorOut) {
   EXPECT_EQ(relative(u"C:\\Work\\Data\\X.txt", u"C:\\work\\"), u"data\\x.txt");

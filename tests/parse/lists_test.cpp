@@ -19,13 +19,13 @@ struct Taken {
 Taken list(std::u16string_view text, const Variant& separator = Variant::missing()) {
   String buffer(text);
   const String item = kParse.ParseList(buffer, separator);
-  return {std::u16string(item.view()), std::u16string(buffer.view())};
+  return {text_of(item), text_of(buffer)};
 }
 
 Taken list_plus(std::u16string_view text, const Variant& separator = Variant::missing()) {
   String buffer(text);
   const String item = kParse.ParseListPlus(buffer, separator);
-  return {std::u16string(item.view()), std::u16string(buffer.view())};
+  return {text_of(item), text_of(buffer)};
 }
 
 TEST(ParseList, TakesWordAfterWord) {
@@ -165,7 +165,7 @@ TEST(ParseFields, AgreesWithTheStepsOnRandomTexts) {
 }
 
 std::u16string field(std::u16string_view text, const char16_t* separator, std::int32_t number) {
-  return std::u16string(kParse.ParseString(text, String(separator), Variant(number)).view());
+  return text_of(kParse.ParseString(text, String(separator), Variant(number)));
 }
 
 TEST(ParseString, EmptyFieldsCount) {
@@ -199,7 +199,7 @@ TEST(ParseString, NumbersBelowOneAreInvalid) {
 
 TEST(ParseString, TheNumberIsConverted) {
   const auto at = [](Variant ix) {
-    return std::u16string(kParse.ParseString(u"a,b,c", String(u","), std::move(ix)).view());
+    return text_of(kParse.ParseString(u"a,b,c", String(u","), std::move(ix)));
   };
   EXPECT_EQ(at(Variant(u" 2 ")), u"b");
   EXPECT_EQ(at(Variant(2.5)), u"b");

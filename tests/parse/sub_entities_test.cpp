@@ -20,7 +20,7 @@ std::u16string pick_pieces(reference::Random& random, const Texts& pieces, std::
 }
 
 std::u16string sub_entity(std::u16string_view entity, std::u16string_view token) {
-  return std::u16string(kParse.ParseSubEntity(entity, token).view());
+  return text_of(kParse.ParseSubEntity(entity, token));
 }
 
 TEST(ParseSubEntity, GivesTheWordsBetweenOpenerAndCloser) {
@@ -107,7 +107,7 @@ WordList word_list(std::u16string_view text, std::u16string_view token) {
   Collection collection;
   const std::int32_t count = kParse.ParseTokenListIntoColl(entity, token, collection);
   EXPECT_EQ(count, collection.count());
-  return {texts_of(collection), std::u16string(entity.view())};
+  return {texts_of(collection), text_of(entity)};
 }
 
 TEST(ParseTokenListIntoColl, TakesTheListOff) {
@@ -160,7 +160,7 @@ std::u16string replaced(std::u16string_view text, const char16_t* token,
   String entity(text);
   const String result = kParse.ReplaceEntity(entity, String(token), String(replacement));
   EXPECT_TRUE(entity.empty());
-  return std::u16string(result.view());
+  return text_of(result);
 }
 
 TEST(ReplaceEntity, ReplacesTheValueAfterTheKeyword) {

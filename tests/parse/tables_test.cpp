@@ -15,7 +15,7 @@ const clsParse kParse;
 Texts table(std::u16string_view text) {
   String buffer(text);
   const String result = kParse.ParseTable(buffer);
-  return {std::u16string(result.view()), std::u16string(buffer.view())};
+  return {text_of(result), text_of(buffer)};
 }
 
 TEST(ParseTable, GivesTheLinesOfTheTable) {

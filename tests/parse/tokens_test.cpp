@@ -11,7 +11,7 @@ namespace {
 const clsParse kParse;
 
 std::u16string token(std::u16string_view text, const Variant& number = Variant::missing()) {
-  return std::u16string(kParse.ParseToken(text, number).view());
+  return text_of(kParse.ParseToken(text, number));
 }
 std::u16string token(std::u16string_view text, std::int32_t number) {
   return token(text, Variant(number));
@@ -187,7 +187,7 @@ TEST(ParseTokenArray, AgreesWithTheStepsOnRandomTextsAndArrays) {
 Texts lines(std::u16string_view text) {
   String buffer(text);
   const String line = kParse.ParseRecord(buffer);
-  return {std::u16string(line.view()), std::u16string(buffer.view())};
+  return {text_of(line), text_of(buffer)};
 }
 
 TEST(ParseRecord, TakesALineOff) {

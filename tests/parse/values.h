@@ -12,6 +12,7 @@ namespace kw {
 
 using testing::array_of;
 using testing::number_of;
+using testing::text_of;
 using testing::Texts;
 using testing::texts_of;
 

@@ -17,7 +17,7 @@ std::u16string value(std::u16string_view text, const char16_t* keyword) {
   Array<String> values;
   const String found = kParse.ParseValuewithTokenandCheck(text, String(keyword), values, 0);
   EXPECT_FALSE(values.dimensioned());
-  return std::u16string(found.view());
+  return text_of(found);
 }
 
 TEST(ParseValuewithTokenandCheck, SkipsTheKeywordInQuotedText) {

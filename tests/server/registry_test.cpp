@@ -34,8 +34,7 @@ struct Registry : ::testing::Test {
     fs::create_directories(folder);
     host.context = &folder;
     host.registry_folder = [](void* context) KW_STDCALL {
-      const std::u16string text = from_utf8(static_cast<fs::path*>(context)->native());
-      return SysAllocStringLen(text.data(), static_cast<std::uint32_t>(text.size()));
+      return String::from_utf8(static_cast<fs::path*>(context)->native()).release();
     };
     set_host(host);
     set_host(*platform::load_class_factory(library_path(), parse_id()), host);

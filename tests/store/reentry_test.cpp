@@ -13,6 +13,7 @@
 #include "kwutils/host.h"
 #include "platform/temporary_folder.h"
 #include "server/class_list.h"
+#include "support/texts.h"
 
 namespace kw::store {
 namespace {
@@ -104,7 +105,7 @@ class ReentryDuringSearch : public ::testing::TestWithParam<Search> {
     return list.to_object().get(u"Count").to_int32();
   }
   static std::u16string text_at(const Variant& list, std::int32_t position) {
-    return std::u16string(Collection(list.to_object()).item(position).text().view());
+    return testing::text_of(Collection(list.to_object()).item(position).text());
   }
   static void set_nothing(Variant& variable) {
     std::exchange(variable.address()->pdispVal, nullptr)->Release();

@@ -5,11 +5,12 @@
 
 #include "kwutils/clsAPIUtil.h"
 #include "kwutils/host.h"
+#include "support/texts.h"
 
 namespace kw {
 namespace {
 
-struct NTDomainUserName : testing::Test {
+struct NTDomainUserName : ::testing::Test {
   NTDomainUserName() {
     HostFunctions host;
     host.context = &name;
@@ -24,7 +25,7 @@ struct NTDomainUserName : testing::Test {
 
   std::u16string result_for(std::optional<std::u16string> given) {
     name = std::move(given);
-    return std::u16string(api.NTDomainUserName().view());
+    return testing::text_of(api.NTDomainUserName());
   }
 
   std::optional<std::u16string> name;

@@ -8,6 +8,7 @@
 #include "reference/all_texts.h"
 #include "reference/random_inputs.h"
 #include "reference/string_util.h"
+#include "support/texts.h"
 
 namespace kw {
 namespace {
@@ -16,7 +17,7 @@ const clsStringUtil util;
 
 std::u16string replaced(std::u16string_view text, std::u16string_view sought,
                         std::u16string_view by) {
-  return std::u16string(util.ReplaceAllOccurs(text, sought, by).view());
+  return testing::text_of(util.ReplaceAllOccurs(text, sought, by));
 }
 
 // A pair of which every step makes the text shorter, or takes some of the characters of what is
