@@ -27,6 +27,10 @@ struct Outcome {
   std::int32_t error = 0;  // the number of the Error that it threw
 };
 
+// Whether an operation goes on after the fault as if nothing had been: it was interrupted, or only
+// a part was written.
+bool is_passing(const Fault& fault);
+
 using Step = std::function<void()>;
 using Operation = std::function<bool()>;
 using Check = std::function<void(const Outcome&)>;

@@ -46,8 +46,7 @@ class StoreFaults : public ::testing::TestWithParam<StoreWriter> {
     SCOPED_TRACE(run.description);
     EXPECT_TRUE(is_old() || is_new());
     EXPECT_TRUE(run.reported || is_new());
-    const bool passes = run.fault.kind == Kind::short_write || run.fault.error == EINTR;
-    EXPECT_EQ(run.reported, !passes && !is_recovered(run));
+    EXPECT_EQ(run.reported, !is_passing(run.fault) && !is_recovered(run));
     EXPECT_EQ(folder_.read("rows.txt"), kRows);
     check_next_writer();
   }

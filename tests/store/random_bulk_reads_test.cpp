@@ -1,31 +1,23 @@
 // The readers of many entities against their steps, on files at random.
-#include "random_files.h"
+#include "random_store_test.h"
 #include "reference/bulk_reads.h"
 #include "reference/identifiers.h"
-#include "store_test.h"
 
 namespace kw::store {
 namespace {
 
 using reference::Gathering;
 using reference::KeyedList;
-using reference::Random;
 
-class RandomBulkReads : public StoreTest {
+class RandomBulkReads : public RandomStoreTest {
  protected:
-  static constexpr auto kName = u"a.ent";
-
-  // Calls compare(maker, content, token).
+  // Calls compare(random file maker, content, token).
   template <class Compare>
   void on_random_files(std::uint64_t seed, Compare compare) {
-    reference::for_random_inputs(seed, [&](Random& random) {
-      RandomFiles make(random);
-      const std::string content = make.file();
+    RandomStoreTest::on_random_files(seed, [&](RandomFiles& make, const std::string& content) {
       const std::string token = make.token();
-      files.put(kName, content);
-      files.piece = make.piece();
       compare(make, content, token);
-      ASSERT_FALSE(HasFatalFailure()) << token << '|' << ::testing::PrintToString(content);
+      ASSERT_FALSE(HasFatalFailure()) << token;
     });
   }
 

@@ -1,32 +1,14 @@
 // The look-ups of one entity and its table against their steps, on files at random.
-#include "random_files.h"
+#include "random_store_test.h"
 #include "reference/entity_lookup.h"
 #include "reference/table_entry.h"
-#include "store_test.h"
 
 namespace kw::store {
 namespace {
 
-using reference::Random;
 using reference::TextFile;
 
-class RandomLookups : public StoreTest {
- protected:
-  static constexpr auto kName = u"a.ent";
-
-  // Calls compare(random file maker, content) with the content in the file kName.
-  template <class Compare>
-  void on_random_files(std::uint64_t seed, Compare compare) {
-    reference::for_random_inputs(seed, [&](Random& random) {
-      RandomFiles make(random);
-      const std::string content = make.file();
-      files.put(kName, content);
-      files.piece = make.piece();
-      compare(make, content);
-      ASSERT_FALSE(HasFatalFailure()) << ::testing::PrintToString(content);
-    });
-  }
-};
+using RandomLookups = RandomStoreTest;
 
 TEST_F(RandomLookups, GetEntityFollowsItsSteps) {
   on_random_files(10, [&](RandomFiles& make, const std::string& content) {

@@ -1,20 +1,16 @@
 // The searches against their steps, on files at random.
-#include "random_files.h"
+#include "random_store_test.h"
 #include "reference/entity_searches.h"
-#include "store_test.h"
 
 namespace kw::store {
 namespace {
 
 using reference::KeyedList;
-using reference::Random;
 using reference::SearchArguments;
 using reference::SearchLists;
 
-class RandomSearches : public StoreTest {
+class RandomSearches : public RandomStoreTest {
  protected:
-  static constexpr auto kName = u"a.ent";
-
   // Random arguments, and the variables that the method is given for them.
   void choose(RandomFiles& make) {
     expected = {};
@@ -58,11 +54,7 @@ class RandomSearches : public StoreTest {
 };
 
 TEST_F(RandomSearches, List2EntitieswithSearchFollowsItsSteps) {
-  reference::for_random_inputs(40, [&](Random& random) {
-    RandomFiles make(random);
-    const std::string content = make.file();
-    files.put(kName, content);
-    files.piece = make.piece();
+  on_random_files(40, [&](RandomFiles& make, const std::string& content) {
     choose(make);
     store.List2EntitieswithSearch(kName, text(arguments.token), search_token,
                                   text(arguments.search_value), ids, name_token, names, true, false,
@@ -70,16 +62,11 @@ TEST_F(RandomSearches, List2EntitieswithSearchFollowsItsSteps) {
     reference::List2EntitieswithSearch({content}, arguments, expected);
     expect_variables();
     if (arguments.fourth_token) expect_list(Collection(fourth_list.to_object()), expected.fourth);
-    ASSERT_FALSE(HasFatalFailure()) << ::testing::PrintToString(content);
   });
 }
 
 TEST_F(RandomSearches, List2EntitieswithSearchandSeekFollowsItsSteps) {
-  reference::for_random_inputs(41, [&](Random& random) {
-    RandomFiles make(random);
-    const std::string content = make.file();
-    files.put(kName, content);
-    files.piece = make.piece();
+  on_random_files(41, [&](RandomFiles& make, const std::string& content) {
     choose(make);
     arguments.fourth_token.reset();
     arguments.seek = true;
@@ -89,16 +76,11 @@ TEST_F(RandomSearches, List2EntitieswithSearchandSeekFollowsItsSteps) {
     reference::List2EntitieswithSearch({content}, arguments, expected);
     expect_variables();
     expect_list(positions, expected.positions);
-    ASSERT_FALSE(HasFatalFailure()) << ::testing::PrintToString(content);
   });
 }
 
 TEST_F(RandomSearches, SubList2EntitieswithSearchFollowsItsSteps) {
-  reference::for_random_inputs(42, [&](Random& random) {
-    RandomFiles make(random);
-    const std::string content = make.file();
-    files.put(kName, content);
-    files.piece = make.piece();
+  on_random_files(42, [&](RandomFiles& make, const std::string& content) {
     choose(make);
     arguments.third_token.reset();
     arguments.fourth_token.reset();
@@ -108,7 +90,7 @@ TEST_F(RandomSearches, SubList2EntitieswithSearchFollowsItsSteps) {
                                      false);
     reference::SubList2EntitieswithSearch({content}, part, arguments, expected);
     expect_variables();
-    ASSERT_FALSE(HasFatalFailure()) << part << '|' << ::testing::PrintToString(content);
+    ASSERT_FALSE(HasFatalFailure()) << part;
   });
 }
 

@@ -8,6 +8,7 @@
 
 #include "platform/profile.h"
 #include "reference/ini.h"
+#include "wine/hex_words.h"
 
 namespace kw::wine {
 namespace {
@@ -145,16 +146,6 @@ Command random_change(Random& random) {
   const bool removal = pick(random, 0, 2) == 0;
   return {removal ? Command::remove : Command::set, random_name(random), random_name(random),
           removal ? "" : blank(random) + random_value(random) + blank(random)};
-}
-
-std::string to_hex(const std::string& bytes) {
-  constexpr char kDigits[] = "0123456789ABCDEF";
-  std::string word = "x";
-  for (const char byte : bytes) {
-    word += kDigits[static_cast<unsigned char>(byte) >> 4];
-    word += kDigits[static_cast<unsigned char>(byte) & 15];
-  }
-  return word;
 }
 
 }  // namespace
