@@ -22,7 +22,8 @@ class ArrayBase {
   ArrayBase& operator=(const ArrayBase&) = delete;
   ~ArrayBase();
 
-  // False for an array that was never dimensioned, or erased.
+  // False for an array that was never dimensioned, or erased. An array without elements is
+  // dimensioned.
   bool dimensioned() const noexcept { return array_ != nullptr && array_->cDims != 0; }
   // Bounds of the first dimension. Error 9 (subscript) when never dimensioned.
   std::int32_t lower() const;
@@ -30,7 +31,9 @@ class ArrayBase {
   // Number of elements; 0 when never dimensioned.
   std::size_t size() const noexcept;
 
+  // The array itself, still owned here; null when never dimensioned.
   SAFEARRAY* get() const noexcept { return array_; }
+  // Gives the array away (SafeArrayDestroy frees it); this one is then never dimensioned.
   SAFEARRAY* release() noexcept { return std::exchange(array_, nullptr); }
 
  protected:
@@ -70,6 +73,8 @@ inline constexpr VARTYPE kElementKind<double> = kVtR8;
 //   Array<String> fields;                    // never dimensioned
 //   fields.redim(0, 2);                      // three empty texts
 //   fields.at(1) = u"pump";                  // checked: error 9 outside the bounds
+//   fields.redim_preserve(0, 3);             // one text more
+//   fields.upper();                          // 3
 //   for (String& field : fields.elements())  // unchecked, for inner loops
 //
 // A method that fills a caller's array gathers in a vector of its own and publishes once.
@@ -84,7 +89,7 @@ class Array : public ArrayBase {
     swap(other);
     return *this;
   }
-  // An array from `lower` on that takes over the values.
+  // An array from `lower` on that takes over the values. Error 7 when there is no memory for it.
   static Array of(std::int32_t lower, std::vector<T> values) {
     Array array;
     array.publish(lower, std::move(values));
@@ -98,6 +103,8 @@ class Array : public ArrayBase {
     return result;
   }
 
+  // The element `index`, counted as the array's own bounds do. Error 9 when there is none, 13 when
+  // the array holds another kind.
   T& at(std::int32_t index) { return *static_cast<T*>(element(index, kElementKind<T>, sizeof(T))); }
   const T& at(std::int32_t index) const {
     return *static_cast<const T*>(element(index, kElementKind<T>, sizeof(T)));

@@ -15,14 +15,15 @@ namespace kw {
 // Positions count from 1.
 //
 //   kw::clsFileUtil util;
-//   kw::String path, name, ext;
-//   util.SplitFileName(u"C:\\a\\b.tar.gz", path, name, ext);  // "C:\a\", "b", "tar.gz"
-//   util.MakeAbsolute(u"data\\in.txt", kw::Variant(u"D:\\proj\\model.ini"));  //
-//   D:\proj\data\in.txt
+//   const kw::Variant model(u"D:\\proj\\model.ini");
+//   util.MakeAbsolute(u"data\\in.txt", model);              // u"D:\\proj\\data\\in.txt"
+//   util.UnMakeAbsolute(u"D:\\proj\\data\\in.txt", model);  // u"data\\in.txt"
 class clsFileUtil {
  public:
   // Whether the file `FileName`, blanks around it ignored, can be opened for reading. False for a
-  // directory, for "" and after any failure.
+  // directory, for "" and after any failure: raises no error.
+  //
+  //   util.FileNameExists(u"C:\\none.txt");  // false
   Boolean FileNameExists(const String& FileName) const;
 
   // `relPath` as an absolute path, without "\.\", "\\" and "\..\".
@@ -67,19 +68,30 @@ class clsFileUtil {
 
   // Cuts `FileName` into `path`, up to and including its last "\", `name`, up to the first "." of
   // the rest, and `ext`, what follows that ".". What is not there is "".
+  //
+  //   kw::String path, name, ext;
+  //   util.SplitFileName(u"C:\\a\\b.tar.gz", path, name, ext);
+  //   // path is u"C:\\a\\"; name is u"b"; ext is u"tar.gz"
   void SplitFileName(std::u16string_view FileName, String& path, String& name, String& ext) const;
 
   // The folder of `TheFile`, as a text, without its last "\": "C:\a" for "C:\a\b.txt". A root keeps
   // it ("C:\" for "C:\b.txt", "\" for "\b.txt"), and so does any name whose last "\" is its third
   // character. "" for a name without "\".
-  // The caller's variable is left without the blanks around it.
+  // The caller's variable is left without the blanks around it. Raises no error.
+  //
+  //   kw::String file = u" C:\\a\\b.txt ";
+  //   util.StripFileFrom(file).text();  // u"C:\\a"; file is u"C:\\a\\b.txt"
   Variant StripFileFrom(String& TheFile) const;
 
   // What follows the last "\" of `TheFile`, without blanks around it; all of it when there is none.
-  // "" for a name of more than 32767 characters and for what has no text form.
+  // "" for a name of more than 32767 characters and for what has no text form. Raises no error.
+  //
+  //   util.StripPathFrom(u"C:\\a\\b.txt");  // u"b.txt"
   String StripPathFrom(const Variant& TheFile) const;
 
-  // Opens nothing and answers NO_FILE, whatever the name and the mode.
+  // Opens nothing and answers NO_FILE, whatever the name and the mode. Raises no error.
+  //
+  //   util.FileOpener(u"C:\\a\\b.txt", kw::READ_FILE);  // kw::NO_FILE
   std::int32_t FileOpener(const String& FileName, const std::int32_t& Mode) const;
 };
 

@@ -4,11 +4,12 @@
 // with an apostrophe or a double quote runs to the next one of its kind, blanks included; a keyword
 // is a word whose value is the next one; lines end with CR LF.
 //
-//   clsParse parse;
-//   String list = u"id 'B 2' nm Outlet";
-//   parse.ParseList(list);                    // u"id"; list is now u"'B 2' nm Outlet"
-//   parse.ParseList(list);                    // u"B 2"
-//   parse.ParseListPlus(list);                // u"nm"
+//   kw::clsParse parse;
+//   kw::String list = u"id 'B 2' nm 'Outlet'";
+//   parse.ParseList(list);      // u"id"; list is u"'B 2' nm 'Outlet'"
+//   parse.ParseList(list);      // u"B 2"
+//   parse.ParseListPlus(list);  // u"nm"
+//   parse.ParseListPlus(list);  // u"'Outlet'"; list is u""
 #pragma once
 
 #include <cstdint>
@@ -22,7 +23,8 @@
 namespace kw {
 
 // Positions, token and field numbers count from 1; comparisons are exact unless a method says
-// otherwise. The same variable may be given for several parameters.
+// otherwise. The same variable may be given for several parameters. A method whose text names no
+// error raises none but 7 (out of memory).
 class clsParse {
  public:
   // Lists and fields.
@@ -39,18 +41,26 @@ class clsParse {
   // off. Raises no error.
   String ParseList(String& Buf, const Variant& Seperator = Variant::missing()) const;
 
-  // The same; a quoted item is returned in its quotes: u"'a b'".
+  // The same; a quoted item is returned in its quotes: u"'a b'". Raises no error.
   String ParseListPlus(String& Buf, const Variant& Seperator = Variant::missing()) const;
 
   // Cuts `Buf` into items as ParseList does and returns their number. `Fields` is made new, with
   // the items from element 1 on and their number as text in element 0: u"a b" gives u"2", u"a",
   // u"b". Error 10 when `Fields` is fixed or locked.
+  //
+  //   kw::Array<kw::String> fields;
+  //   parse.ParseFields(u"a;'b;c'", u";", fields);  // 2
+  //   fields.at(0);                                 // u"2"
+  //   fields.at(2);                                 // u"b;c"
   std::int32_t ParseFields(std::u16string_view Buf, const String& Separator,
                            Array<String>& Fields) const;
 
   // The field number `ix` of `Buf`, cut at every `Sep` and neither trimmed nor unquoted; "" when
   // there are not so many, and when `Sep` is "". Errors: 5 for a number below 1, 13 when `ix` is no
   // number, 6 when it is none of 32 bits.
+  //
+  //   parse.ParseString(u"a,, c", u",", kw::Variant(3));  // u" c"
+  //   parse.ParseString(u"a,, c", u",", kw::Variant(4));  // u""
   String ParseString(std::u16string_view Buf, const String& Sep, Variant ix) const;
 
   // Tokens.
@@ -58,6 +68,8 @@ class clsParse {
   // The token number `ScanToTk` of `Buf`, trimmed and without its quotes; 1 when left out. "" when
   // there are not so many tokens, when a quote before its end is never closed, and for a value that
   // is no number from 1 on. Tokens are read like ParseList's items with one blank. Raises no error.
+  //
+  //   parse.ParseToken(u"id 'B 2'", kw::Variant(2));  // u"B 2"
   String ParseToken(std::u16string_view Buf, const Variant& ScanToTk = Variant::missing()) const;
 
   // Reads tokens into `tkarray` from element 1 on and counts them in `numTk`: up to number
@@ -68,11 +80,20 @@ class clsParse {
   // The array grows to bounds 0 to `numTk` where it is smaller, and keeps its other elements. Where
   // it cannot grow (fixed, locked, a lower bound that is not 0) the tokens that fit are stored and
   // all are counted. Raises no error.
+  //
+  //   kw::Array<kw::String> tokens;
+  //   std::int32_t count = 0;
+  //   parse.ParseTokenArray(u"a 'b c' d", 2, tokens, count);  // 0; count is 2
+  //   tokens.at(2);                                           // u"b c"
   std::int32_t ParseTokenArray(std::u16string_view Buf, const std::int32_t& ScanToTk,
                                Array<String>& tkarray, std::int32_t& numTk) const;
 
   // Takes the first line off `Buf` and returns it without its end, untrimmed. A line ends at a CR;
-  // the blanks and then the one LF that follow it go as well. A lone LF ends no line.
+  // the blanks and then the one LF that follow it go as well. A lone LF ends no line. Raises no
+  // error.
+  //
+  //   kw::String lines = u"one\r\n two";
+  //   parse.ParseRecord(lines);  // u"one"; lines is u" two"
   String ParseRecord(String& Buf) const;
 
   // The value that follows the keyword `Token` on the first line of `Buf`; "" when it does not
@@ -81,7 +102,10 @@ class clsParse {
   // takes the `numTk` tokens that follow the keyword, from element 1 on; element 1 is returned.
   // Raises no error.
   //
-  //   parse.ParseValuewithTokenandCheck(u"nm 'x id y' id 7", u"id", values, 0)     // u"7"
+  //   kw::Array<kw::String> values;
+  //   parse.ParseValuewithTokenandCheck(u"nm 'x id y' id 7", u"id", values, 0);  // u"7"
+  //   parse.ParseValuewithTokenandCheck(u"xy 1.5 2.5", u"xy", values, 2);        // u"1.5"
+  //   values.at(2);                                                              // u"2.5"
   String ParseValuewithTokenandCheck(std::u16string_view Buf, const String& Token,
                                      Array<String>& tkarray, std::int32_t numTk) const;
 
@@ -91,11 +115,15 @@ class clsParse {
   // between them. "" when there is none or its closing word occurs nowhere in `Entity`; to the end
   // of `Entity` when that occurs, but not as a word. Line ends separate words here.
   //
-  //   parse.ParseSubEntity(u"NODE a 'b c' d node", u"node")     // u"a 'b c' d"
+  //   parse.ParseSubEntity(u"NODE a 'b c' d node", u"node");  // u"a 'b c' d"
   String ParseSubEntity(std::u16string_view Entity, std::u16string_view Token) const;
 
   // Replaces `colBuffer` by a new collection of the texts of all sub-entities `Token`, without
   // keys, and returns their number. A last one that is not closed is left out.
+  //
+  //   kw::Collection parts;
+  //   parse.ParseSubEntitiesIntoColl(u"X a x X 'b c' x", u"x", parts);  // 2
+  //   parts.item(2).text();                                             // u"'b c'"
   std::int32_t ParseSubEntitiesIntoColl(std::u16string_view Entity, std::u16string_view Token,
                                         Collection& colBuffer) const;
 
@@ -103,6 +131,11 @@ class clsParse {
   // and its lower-case form, without quotes and keys, and returns their number. What stands in
   // `Entity` up to the closing word is taken off; what follows it on its line stays, with CR LF.
   // Without the closing word in `Entity` nothing is read.
+  //
+  //   kw::String entity = u"LST 'p q' r lst rest";
+  //   kw::Collection words;
+  //   parse.ParseTokenListIntoColl(entity, u"LST", words);  // 2; entity is u"rest\r\n"
+  //   words.item(1).text();                                 // u"p q"
   std::int32_t ParseTokenListIntoColl(String& Entity, std::u16string_view StartToken,
                                       Collection& collList) const;
 
@@ -110,7 +143,8 @@ class clsParse {
   // blanks around it ignored): items with one blank after each, quotes kept. Line ends separate
   // nothing here. `Entity` is empty afterwards.
   //
-  //   parse.ReplaceEntity(entity, u"NM", u"'new'")   // u"id 3 nm 'old'": u"id 3 nm 'new' "
+  //   entity = u"id 3 nm 'old'";
+  //   parse.ReplaceEntity(entity, u"NM", u"'new'");  // u"id 3 nm 'new' "; entity is u""
   String ReplaceEntity(String& Entity, const String& Token, const String& replacestring) const;
 
   // Tables.
@@ -119,6 +153,9 @@ class clsParse {
   // from the line after the one that begins with "TBLE" to "tble", less one CR LF at its end.
   // Without a "TBLE" line all of `Buf` is taken off; without "tble", the line and the three
   // characters that follow it, which callers rely on.
+  //
+  //   kw::String table = u"head\r\nTBLE\r\n1 2 <\r\ntble tail";
+  //   parse.ParseTable(table);  // u"1 2 <"; table is u" tail"
   String ParseTable(String& Buf) const;
 
   // Takes the first table off `Entity`, with all that precedes it, and stores its rows: each is its
@@ -131,6 +168,12 @@ class clsParse {
   // Errors: 9 when the table has no rows and `numRows` is below 1, and when rows cannot be numbered
   // on from it (it is negative or far above the number of rows); 10 when `Table` is fixed or
   // locked.
+  //
+  //   kw::String levels = u"TBLE 1 'a b' < 3 4 < tble";
+  //   kw::Array<kw::String> rows;
+  //   std::int32_t last = 0;
+  //   parse.ParseTableList(levels, rows, last);  // 2; last is 2
+  //   rows.at(1);                                // u"1 a b < \r\n"
   std::int32_t ParseTableList(String& Entity, Array<String>& Table, std::int32_t& numRows) const;
 
  private:

@@ -13,10 +13,10 @@ namespace kw {
 // integer, l 32-bit integer, s string.
 //
 //   clsQSort sort;
-//   auto values = Array<double>::of(0, {3, 1, 2});
-//   Array<std::int32_t> order;
-//   sort.dQSortIndex(values, order);  // true; order is 1, 2, 0, values are as they were
-//   sort.dQSort(values);              // true; values are 1, 2, 3
+//   auto values = kw::Array<double>::of(0, {3, 1, 2});
+//   kw::Array<std::int32_t> order;
+//   sort.dQSortIndex(values, order);  // true; order holds 1, 2, 0, values are as they were
+//   sort.dQSort(values);              // true; values holds 1, 2, 3
 //
 // The sorts are not stable, but where they leave equal elements is a promise: every range is split
 // around the value in its middle (the sum of its bounds divided by 2, rounded toward zero), both
@@ -40,6 +40,14 @@ class clsQSort {
   // The Index methods leave the values as they are and make `lNewOrder` new, with the bounds of the
   // values: element k is the index of the value that comes k-th. They also fail, and leave
   // `lNewOrder` unchanged, when that is fixed or locked.
+  //
+  //   kw::Array<kw::String> names;
+  //   names.redim(1, 2);
+  //   names.at(1) = u"a";
+  //   names.at(2) = u"B";
+  //   sort.sQSort(names, false, 0);          // true; names holds B, a: by code unit
+  //   sort.sQSort(names);                    // true; names holds a, B: as text
+  //   sort.sQSortIndex(names, order, true);  // true; order holds 2, 1: descending
 
   Boolean dQSort(Array<double>& dValue, const Boolean& bDescending = false) const;
   Boolean dQSortIndex(const Array<double>& dValue, Array<std::int32_t>& lNewOrder,
@@ -69,6 +77,13 @@ class clsQSort {
   // would swap an element that `lngNewOrder` does not have; 6 (overflow) when the bounds of a range
   // have no 32-bit sum; 5 (invalid argument) for a compare method other than 0 and 1. What was
   // swapped before an error stays so; at the swap that fails, the values are swapped already.
+  //
+  //   auto levels = kw::Array<std::int32_t>::of(1, {20, 30, 10});
+  //   auto places = kw::Array<std::int32_t>::of(1, {1, 2, 3});
+  //   sort.lQSortNRAscIndex(levels, places);
+  //   // levels holds 10, 20, 30; places holds 3, 1, 2
+  //   sort.lQSortNRDes(levels);
+  //   // levels holds 30, 20, 10
 
   void dQSortNRAsc(Array<double>& dblValues) const;
   void dQSortNRDes(Array<double>& dblValues) const;

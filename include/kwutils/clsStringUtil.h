@@ -12,9 +12,13 @@ namespace kw {
 // search is exact (upper and lower case differ), positions count code units from 1.
 //
 //   kw::clsStringUtil util;
-//   util.RemoveSpaces(u"  a b ");                 // "ab"
-//   util.ReplaceAllOccurs(u"a-b-c", u"-", u"+");  // "a+b+c"
-//   util.NumStr(0.5f);                            // " 0.5"
+//   util.RemoveSpaces(u"  a b ");                 // u"ab"
+//   util.ReplaceAllOccurs(u"a-b-c", u"-", u"+");  // u"a+b+c"
+//   util.OutStr(u"abcabc", u"bc");                // 6
+//   util.InvertString(u"abc");                    // u"cba"
+//   util.StrNoNull(std::u16string(u"ab\0c", 4));  // u"ab"
+//   util.ReplaceTabCharacterswithBlank(u"a\tb");  // u"a b"
+//   util.NumStr(0.5f);                            // u" 0.5"
 //
 // Any method throws error 7 (out of memory) when its result cannot be held.
 class clsStringUtil {

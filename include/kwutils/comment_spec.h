@@ -12,11 +12,12 @@ enum eCommentType : std::int32_t {
   BlockComment = 2,  // up to the line with the end key, its own line included
 };
 
-// One kind of comment. A line is one when it begins, behind its blanks, with the key.
+// One kind of comment. A line is one when it begins, behind its blanks, with the key, to the
+// letter. For blocks of C, for example: { "/*", "*/", 2, BlockComment }.
 struct tCommentSpec {
   String sCommentKey;
   String sCommentEnd;            // of a block
-  std::int32_t lCommentLen = 0;  // of the key
+  std::int32_t lCommentLen = 0;  // of the key, in characters
   eCommentType tCommentType = {};
 };
 

@@ -13,6 +13,8 @@ namespace kw {
 // name is registered, or its library cannot be loaded; the description says which and why.
 //
 //   kw::Object parser = kw::create_object(u"kwUtils.clsParse");
+//   const kw::Variant line(u"id 'B 2'"), second(2);
+//   parser.call(u"ParseToken", {&line, &second}).text();  // u"B 2"
 Object create_object(std::u16string_view name);
 
 }  // namespace kw

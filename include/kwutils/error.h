@@ -41,6 +41,12 @@ enum class ErrorNumber : std::int32_t {
 std::string_view standard_text(ErrorNumber number) noexcept;
 
 // Thrown where a failure is known, translated once where a call leaves the library.
+//
+//   try {
+//     kw::clsFileReadWrite().GetEntity(u"none.dat", u"node", u"B1");
+//   } catch (const kw::Error& error) {
+//     error.text();  // "File not found: 'none.dat'"
+//   }
 class Error : public std::exception {
  public:
   explicit Error(ErrorNumber error_number) : number(error_number) {}

@@ -6,9 +6,12 @@
 //
 //   kw::HostFunctions host;
 //   host.context = &window;
-//   host.screen_size = [](void* context, float* width, float* height) KW_STDCALL { ... };
-//   kw::set_host(factory, host);      // the library behind a class factory that it answered with
-//   kw::set_host(host);               // the library that is linked into this program
+//   host.screen_size = [](void* context, float* width, float* height) KW_STDCALL {
+//     *width = static_cast<Window*>(context)->screen_width;
+//     *height = static_cast<Window*>(context)->screen_height;
+//   };
+//   kw::set_host(factory, host);  // true; the library behind a class factory that it answered with
+//   kw::set_host(host);           // the library that is linked into this program
 #pragma once
 
 #include <cstdint>
@@ -53,15 +56,34 @@ struct HostFunctions {
   BSTR(KW_STDCALL* registry_folder)(void* context) = nullptr;
 };
 
-// How a file is opened under a number, for clsFileReadWrite's GetRecord.
+// How a file is opened under a number, for clsFileReadWrite's GetRecord: an existing file to read
+// from, or one to write to, which is made or emptied.
 enum class NumberedFileMode : std::int32_t { input = 1, output = 2 };
 
 // The interface through which a class factory of the library takes all this. Failures to open or
 // close a file are 0x800A0000 + the error's number.
+//
+//   void* answer = nullptr;
+//   factory.QueryInterface(kw::kIidHostDoor, &answer);
+//   auto* door = static_cast<kw::IHostDoor*>(answer);
+//   const kw::String name = u"net.dat";
+//   const kw::Variant number(1);
+//   door->OpenFile(1, name.get(), kw::NumberedFileMode::input);  // 0
+//   store.call(u"GetRecord", {&number}).text();                  // u"NODE id 'B1' nm 'Inlet' node"
+//   door->CloseFile(1);                                          // 0
+//   door->Release();
 struct IHostDoor : IUnknown {
-  // Copies the table; null takes everything back.
+  // Copies the table; null takes everything back. Never fails.
   virtual HRESULT KW_STDCALL SetFunctions(const HostFunctions* functions) = 0;
+  // Opens the file `name`, which stays the caller's, under a number from 1 to 32767 that is free.
+  // The numbers are those of the whole library, whichever object and thread uses them. 0, or the
+  // failure: error 52 for a number out of range or in use and for an impossible name, 53 (file not
+  // found, to read from), 76 (path not found), 70 (permission denied, or a directory), 57
+  // (input/output). Nothing is open under the number then.
   virtual HRESULT KW_STDCALL OpenFile(std::int16_t number, BSTR name, NumberedFileMode mode) = 0;
+  // Closes the file and frees its number, also when what was written cannot be put on the disk: 61
+  // (disk full), 57 (input/output). Error 52 when no file is open under the number. Files that are
+  // not closed stay open as long as the library is loaded.
   virtual HRESULT KW_STDCALL CloseFile(std::int16_t number) = 0;
 
  protected:
@@ -82,7 +104,8 @@ inline bool set_host(IUnknown& factory, const HostFunctions& functions) {
   return answer >= 0;
 }
 
-// Hands the functions to the library that is linked into this program.
+// Hands the functions to the library that is linked into this program; HostFunctions() takes
+// everything back.
 void set_host(const HostFunctions& functions) noexcept;
 
 }  // namespace kw

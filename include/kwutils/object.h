@@ -14,12 +14,15 @@ class Variant;
 // Owns one reference to an object that answers to names (IDispatch), or refers to nothing. An
 // Object is exactly one pointer wide, so that a caller's object variable can be worked on in place.
 //
-//   Object form = ...;
-//   form.put(u"ScaleMode", Variant(std::int16_t{3}));
-//   const float left = form.get(u"Left").to_single();
+//   Object box = Object::share(text_box);  // a caller's IDispatch*
+//   box.put(u"Text", u"12.5");
+//   box.get(u"Text").to_double();  // 12.5
+//   box.get_default().text();      // u"12.5" where Text is the default property
+//   box.answers(u"Caption");       // false
 //
-// Every access through a name throws: error 91 when there is no object, 438 when the object has no
-// such member, else the error that the object itself reports.
+// Every access to a member throws: error 91 when there is no object, 438 when the object has no
+// such member, 13 or 6 when it cannot take a value, 7 without memory. What the object reports of
+// its own is passed on with its number, source and description; any other failure is error 5.
 class Object {
  public:
   Object() noexcept = default;
@@ -39,25 +42,46 @@ class Object {
   ~Object() {
     if (object_) object_->Release();
   }
-  // Takes over one reference.
+  // Takes over one reference, without adding one; null refers to nothing.
   static Object attach(IDispatch* object) noexcept;
-  // Adds a reference of its own.
+  // Adds a reference of its own; null refers to nothing.
   static Object share(IDispatch* object) noexcept;
 
+  // Whether it refers to an object.
   explicit operator bool() const noexcept { return object_ != nullptr; }
+  // The object, still referred to here.
   IDispatch* pointer() const noexcept { return object_; }
+  // Gives the reference away, to be released by who takes it; this one refers to nothing then.
   IDispatch* release() noexcept { return std::exchange(object_, nullptr); }
   void reset() noexcept { Object().swap(*this); }
   void swap(Object& other) noexcept { std::swap(object_, other.object_); }
 
   // Whether the object answers to `name` (any case). False for no object.
   bool answers(std::u16string_view name) const noexcept;
+  // The value of the property `name`, or the result of the method `name` without arguments; case
+  // matters only where it does to the object.
   Variant get(std::u16string_view name) const;
+  // The value of the default property: what the object stands for where a value is asked for.
   Variant get_default() const;
+  // Gives the property `name` a value, which stays the caller's; an object is handed over as a
+  // value like any other.
   void put(std::u16string_view name, const Variant& value) const;
-  // Calls a method with its arguments in order.
+  // Calls a method with its arguments in order, and hands out its result, Empty where it has none.
+  // What an argument refers to may be changed by the method.
+  //
+  //   const Variant item(u"pump"), key(u"P1");
+  //   const Object list = Collection::create().object();
+  //   list.call(u"Add", {&item, &key});
+  //   list.get(u"Count").to_int32();  // 1
   Variant call(std::u16string_view name, std::initializer_list<const Variant*> arguments) const;
-  // The members of an enumerable object, one after the other; false when there are no more.
+  // The members of an enumerable object, one after the other. Error 438 when the object cannot be
+  // enumerated.
+  //
+  //   Variant member;
+  //   auto members = list.members();
+  //   members.next(member);  // true
+  //   member.text();         // u"pump"
+  //   members.next(member);  // false
   class Members;
   Members members() const;
 
@@ -76,7 +100,8 @@ class Object::Members {
   Members(const Members&) = delete;
   Members& operator=(const Members&) = delete;
   ~Members();
-  // Puts the next member into `member`; false at the end.
+  // Puts the next member into `member`; false, and `member` as it was, at the end. Errors as for
+  // every access.
   bool next(Variant& member);
 
  private:

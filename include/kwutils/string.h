@@ -19,11 +19,16 @@ namespace kw {
 //
 //   String name = u"Inlet";
 //   String other = name.copy();
-//   std::u16string_view text = name;      // valid until `name` changes
+//   std::u16string_view text = name;    // valid until `name` changes
+//   String::concat(name, u" ", other);  // u"Inlet Inlet"
+//   String::from_utf8("caf\xC3\xA9");   // u"caf\u00E9"
+//   name.size();                        // 5
+//
+// What makes a text throws error 7 (out of memory) when it cannot be held.
 class String {
  public:
   String() noexcept = default;
-  String(std::u16string_view text);  // error 7 (out of memory) when the text cannot be held
+  String(std::u16string_view text);
   String(const char16_t* text) : String(std::u16string_view(text)) {}
   String(const std::u16string& text) : String(std::u16string_view(text)) {}
   String(String&& other) noexcept : text_(std::exchange(other.text_, nullptr)) {}
@@ -51,15 +56,18 @@ class String {
   // Unpaired surrogates are written as three bytes each, so that from_utf8 gives them back.
   std::string utf8() const;
 
+  // The code units, valid until the String changes.
   std::u16string_view view() const noexcept {
     return text_ ? std::u16string_view(text_, size()) : std::u16string_view();
   }
   operator std::u16string_view() const noexcept { return view(); }
+  // The number of code units.
   std::size_t size() const noexcept { return text_ != nullptr ? SysStringLen(text_) : 0; }
   bool empty() const noexcept { return size() == 0; }
   // The code units, writable; null when the text is absent.
   char16_t* data() noexcept { return text_; }
 
+  // The BSTR, still owned here; null when the text is absent.
   BSTR get() const noexcept { return text_; }
   // Gives the BSTR away; the String is "" afterwards.
   BSTR release() noexcept { return std::exchange(text_, nullptr); }
