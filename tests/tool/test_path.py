@@ -3,12 +3,13 @@
 
 import unittest
 
-from tool_case import FAILED, USAGE, ToolCase
+from tool_case import FAILED, USAGE, ToolCase, system_text
 
 
 class Path(ToolCase):
     def windows_folder(self):
-        return "C:" + str(self.folder.resolve()).replace("/", "\\")
+        # Under Wine, Z: is the root of the file system.
+        return system_text("C:", "Z:") + str(self.folder.resolve()).replace("/", "\\")
 
     def test_makes_absolute(self):
         self.assertEqual(self.ask("path", "abs", "data\\in.txt", "--base", "D:\\proj\\model.ini").out,

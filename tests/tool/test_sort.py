@@ -4,7 +4,7 @@
 import random
 import unittest
 
-from tool_case import FAILED, USAGE, ToolCase
+from tool_case import FAILED, USAGE, ToolCase, system_text
 
 
 class Sort(ToolCase):
@@ -63,7 +63,8 @@ class Sort(ToolCase):
 
     def test_says_why_a_file_cannot_be_read(self):
         self.refuse("sort", "none.txt", code=FAILED, message="cannot read 'none.txt': File not found")
-        self.refuse("sort", ".", code=FAILED, message="cannot read '.': Permission denied (Is a directory)")
+        self.refuse("sort", ".", code=FAILED, message="cannot read '.': Permission denied "
+                                                      f"({system_text('Is a directory', 'Access denied')})")
 
     def test_does_not_compare_numbers_by_character_codes(self):
         self.assertEqual(self.ask("sort", "--numbers", "--binary", code=USAGE).out, "")

@@ -4,7 +4,7 @@
 import unittest
 import xml.etree.ElementTree
 
-from tool_case import FAILED, NOT_FOUND, PLANT, ToolCase
+from tool_case import FAILED, NOT_FOUND, PLANT, ToolCase, system_text
 
 
 class Table(ToolCase):
@@ -73,7 +73,8 @@ class Table(ToolCase):
 
     def test_says_why_a_drawing_cannot_be_written(self):
         self.refuse("table", "plant.ent", "NODE", "B2", "--svg", "no/curve.svg", code=FAILED,
-                    message="cannot write the drawing 'no/curve.svg': Path not found (No such file or directory)")
+                    message="cannot write the drawing 'no/curve.svg': Path not found"
+                            + system_text(" (No such file or directory)", ""))
 
 
 if __name__ == "__main__":

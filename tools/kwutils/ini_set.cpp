@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <filesystem>
 
 #include "base/compare_text.h"
 #include "base/unicode.h"
@@ -24,9 +25,17 @@ void answer_change(Session& session, const IniOptions& options, const char* done
   json.end();
 }
 
+// The system's own functions do not tell why they fail.
+std::string likely_reason(const IniOptions& options) {
+  const std::filesystem::path folder = std::filesystem::path(from_utf8(options.path)).parent_path();
+  return folder.empty() || std::filesystem::exists(folder)
+             ? "the file or its folder is write-protected"
+             : "there is no such folder";
+}
+
 [[noreturn]] void refuse_rewrite(const IniOptions& options, const Rewriting& rewriting) {
   fail("cannot rewrite " + in_quotes(options.path) + ": " +
-       rewriting.failure("the file or its folder is write-protected"));
+       rewriting.failure(likely_reason(options)));
 }
 
 // Whether there is still something to remove.
