@@ -3,15 +3,33 @@
 namespace kw::frame {
 namespace {
 
-bool left_out(const VARIANT& value) {
+constexpr VARTYPE kReference = kVtByRef | kVtVariant;
+
+// Variables that refer to variables: the last one that does. Null when they go round in a circle.
+VARIANT* last_reference(VARIANT* given) {
+  constexpr int kMostSteps = 64;
+  for (int i = 0; i < kMostSteps; ++i) {
+    if (given->vt != kReference || given->pvarVal == nullptr || given->pvarVal->vt != kReference)
+      return given;
+    given = given->pvarVal;
+  }
+  return nullptr;
+}
+
+bool refers_nowhere(const VARIANT& value) {
+  const bool to_variant = value.vt == kReference && value.pvarVal != nullptr;
+  const VARIANT& last = to_variant ? *value.pvarVal : value;
+  return (last.vt & kVtByRef) != 0 && last.byref == nullptr;
+}
+
+bool is_missing(const VARIANT& value) {
   return value.vt == kVtError && value.scode == status::kParameterNotFound;
 }
 
-// A reference to no variable at all.
-bool refers_nowhere(const VARIANT& value) {
-  const VARIANT* at = &value;
-  while (at->vt == (kVtByRef | kVtVariant) && at->pvarVal != nullptr) at = at->pvarVal;
-  return (at->vt & kVtByRef) != 0 && at->byref == nullptr;
+// A host that passes on what its own caller left out sends a variable that says so.
+bool left_out(const VARIANT& value, const Parameter& parameter) {
+  return is_missing(value) || (parameter.optional && parameter.kind != Kind::variant &&
+                               value.vt == kReference && is_missing(*value.pvarVal));
 }
 
 bool well_formed(const DISPPARAMS& sent) {
@@ -25,9 +43,10 @@ HRESULT Arguments::place(std::size_t position, const DISPPARAMS& sent,
                          std::uint32_t index) noexcept {
   if (position >= method_->parameters.size() || by_position_[position] != nullptr)
     return status::kParameterNotFound;
-  if (refers_nowhere(sent.rgvarg[index])) return status::kInvalidArgument;
+  VARIANT* const given = last_reference(&sent.rgvarg[index]);
+  if (given == nullptr || refers_nowhere(*given)) return status::kInvalidArgument;
   sent_index_[position] = index;
-  if (!left_out(sent.rgvarg[index])) by_position_[position] = &sent.rgvarg[index];
+  if (!left_out(*given, parameter(position))) by_position_[position] = given;
   return status::kOk;
 }
 

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "kwutils/variant.h"
+#include "types/array_size.h"
 
 namespace kw::frame {
 namespace {
@@ -33,6 +34,7 @@ SAFEARRAY* array_in(const VARIANT& variable) {
 
 SAFEARRAY* same_bounds(const SAFEARRAY* array, VARTYPE element) {
   SAFEARRAYBOUND bound = array->rgsabound[0];
+  if (!array_fits(element, bound.cElements)) return nullptr;
   return SafeArrayCreate(element, 1, &bound);
 }
 

@@ -1,6 +1,9 @@
 #include "frame/coercion.h"
 
+#include <cstring>
 #include <utility>
+
+#include "types/change_type.h"
 
 namespace kw::frame {
 namespace {
@@ -35,6 +38,13 @@ void store_typed(VARIANT& target, VARIANT value) noexcept {
     case kVtCy:
       *target.pllVal = value.llVal;
       return;
+    case kVtDecimal: {
+      // It fills a variant from its reserved word on, which is the variant's kind.
+      constexpr std::size_t kSize = 16, kReserved = sizeof value.vt;
+      std::memcpy(static_cast<char*>(target.byref) + kReserved,
+                  reinterpret_cast<const char*>(&value) + kReserved, kSize - kReserved);
+      return;
+    }
     default:
       *target.plVal = value.lVal;
       return;
@@ -70,7 +80,7 @@ void* readable_storage_of(VARIANT& argument, VARTYPE kind) noexcept {
 
 Variant coerced(const VARIANT& argument, VARTYPE kind) {
   Variant result;
-  const HRESULT changed = VariantChangeType(result.address(), &argument, kChangeAlphaBool, kind);
+  const HRESULT changed = change_type(*result.address(), argument, kind);
   // An object variable that is not set has no value of any kind.
   if (changed == status::kBadVariableType) throw Refused{status::kTypeMismatch};
   if (changed < 0) throw Refused{changed};
@@ -96,14 +106,12 @@ void write_back(VARIANT& argument, Variant value) {
   if (is_variable(variable)) {
     Variant typed;
     const VARTYPE kind = plain_kind(variable.vt);
-    const HRESULT changed =
-        VariantChangeType(typed.address(), &value.raw(), kChangeAlphaBool, kind);
+    const HRESULT changed = change_type(*typed.address(), value.raw(), kind);
     if (changed < 0) throw Refused{changed};
     return store_typed(variable, typed.release());
   }
   Variant own;
-  if (!holds_nothing_yet(variable) &&
-      VariantChangeType(own.address(), &value.raw(), kChangeAlphaBool, variable.vt) >= 0)
+  if (!holds_nothing_yet(variable) && change_type(*own.address(), value.raw(), variable.vt) >= 0)
     value = std::move(own);
   VariantClear(&variable);
   variable = value.release();

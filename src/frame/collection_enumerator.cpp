@@ -39,6 +39,7 @@ class Enumerator final : public IEnumVARIANT {
   HRESULT KW_STDCALL Next(std::uint32_t count, VARIANT* values,
                           std::uint32_t* fetched) noexcept override {
     if (fetched != nullptr) *fetched = 0;
+    if (!collection_.on_own_thread()) return status::kWrongThread;
     if (values == nullptr && count != 0) return status::kPointer;
     for (std::uint32_t i = 0; i < count; ++i) {
       if (position_ >= items().size()) return status::kFalse;
@@ -50,16 +51,20 @@ class Enumerator final : public IEnumVARIANT {
     return status::kOk;
   }
   HRESULT KW_STDCALL Skip(std::uint32_t count) noexcept override {
+    if (!collection_.on_own_thread()) return status::kWrongThread;
     const std::size_t left = items().size() - std::min(items().size(), position_);
     position_ += std::min<std::size_t>(left, count);
     return count <= left ? status::kOk : status::kFalse;
   }
   HRESULT KW_STDCALL Reset() noexcept override {
+    if (!collection_.on_own_thread()) return status::kWrongThread;
     position_ = 0;
     return status::kOk;
   }
   HRESULT KW_STDCALL Clone(IEnumVARIANT** copy) noexcept override {
     if (copy == nullptr) return status::kPointer;
+    *copy = nullptr;
+    if (!collection_.on_own_thread()) return status::kWrongThread;
     *copy = new (std::nothrow) Enumerator(collection_, position_);
     return *copy != nullptr ? status::kOk : status::kOutOfMemory;
   }

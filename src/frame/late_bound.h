@@ -69,22 +69,27 @@ struct LateCall {
                                              std::get<I>(natives).native()...);
     };
     const auto finish = [&] { (finish_argument<P>(std::get<I>(natives), I), ...); };
-    try {
-      if constexpr (std::is_void_v<R>) {
-        call();
-      } else {
-        R value = call();
-        if (result != nullptr) to_variant(std::move(value), result);
-      }
-    } catch (...) {
+    const auto guarded_call = [&]() -> R {
       try {
-        finish();
-      } catch (const BadArgument&) {
-        // The method's own failure is the one to report.
+        return call();
+      } catch (...) {
+        try {
+          finish();
+        } catch (const BadArgument&) {
+          // The method's own failure is the one to report.
+        }
+        throw;
       }
-      throw;
+    };
+    if constexpr (std::is_void_v<R>) {
+      guarded_call();
+      finish();
+    } else {
+      // Without a result where a changed argument cannot go back.
+      R value = guarded_call();
+      finish();
+      if (result != nullptr) to_variant(std::move(value), result);
     }
-    finish();
     return status::kOk;
   }
 };

@@ -1,6 +1,7 @@
 #include "kwutils/array.h"
 
 #include "kwutils/error.h"
+#include "types/array_size.h"
 #include "types/status.h"
 
 namespace kw {
@@ -70,7 +71,7 @@ void ArrayBase::check_resizable() const {
 }
 
 SAFEARRAY* ArrayBase::make(VARTYPE kind, std::int32_t lower, std::size_t count) {
-  if (count > INT32_MAX) throw Error(ErrorNumber::out_of_memory);
+  if (!array_fits(kind, count)) throw Error(ErrorNumber::out_of_memory);
   SAFEARRAYBOUND bound = {static_cast<std::uint32_t>(count), lower};
   SAFEARRAY* array = SafeArrayCreate(kind, 1, &bound);
   if (array == nullptr) throw Error(ErrorNumber::out_of_memory);
@@ -94,6 +95,7 @@ void ArrayBase::create_preserving(VARTYPE kind, std::int32_t lower, std::int64_t
   if (!dimensioned()) return replace(make(kind, lower, count));
   require_one_dimension(array_);
   if (array_->rgsabound[0].lLbound != lower) throw Error(ErrorNumber::subscript_out_of_range);
+  if (!array_fits(kind, count)) throw Error(ErrorNumber::out_of_memory);
   SAFEARRAYBOUND bound = {count, lower};
   check_status(SafeArrayRedim(array_, &bound));
 }

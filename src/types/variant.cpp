@@ -1,6 +1,7 @@
 #include "kwutils/variant.h"
 
 #include "kwutils/error.h"
+#include "types/change_type.h"
 #include "types/status.h"
 
 namespace kw {
@@ -107,8 +108,7 @@ bool Variant::is_object() const noexcept {
 Variant Variant::converted(VARTYPE kind) const {
   if (is_object() && object_of(contents()) == nullptr) throw Error(ErrorNumber::object_not_set);
   Variant result;
-  // The host's text of a truth value is "True" or "False", not a number.
-  check_status(VariantChangeType(&result.value_, &value_, kChangeAlphaBool, kind));
+  check_status(change_type(result.value_, value_, kind));
   return result;
 }
 

@@ -4,6 +4,7 @@
 
 #include <random>
 #include <string>
+#include <thread>
 #include <vector>
 
 #include "frame/factory.h"
@@ -68,6 +69,29 @@ TEST(Collection, EnumeratesInOrder) {
   Object::Members members = items.object().members();
   for (Variant member; members.next(member);) walked += member.text().view();
   EXPECT_EQ(walked, u"xyz");
+}
+
+TEST(Collection, IsWalkedByItsOwnThreadAlone) {
+  const Collection items = Collection::create();
+  items.add(String(u"x"));
+  Variant walker = items.object().get(u"_NewEnum");
+  ASSERT_EQ(walker.raw().vt, kVtUnknown);
+  void* found = nullptr;
+  ASSERT_EQ(walker.raw().punkVal->QueryInterface(kIidEnumVariant, &found), status::kOk);
+  auto* const walk = static_cast<IEnumVARIANT*>(found);
+  Variant item;
+  IEnumVARIANT* copy = nullptr;
+  std::thread other([&] {
+    EXPECT_EQ(walk->Next(1, item.address(), nullptr), status::kWrongThread);
+    EXPECT_EQ(walk->Skip(1), status::kWrongThread);
+    EXPECT_EQ(walk->Reset(), status::kWrongThread);
+    EXPECT_EQ(walk->Clone(&copy), status::kWrongThread);
+  });
+  other.join();
+  EXPECT_EQ(copy, nullptr);
+  EXPECT_EQ(walk->Next(1, item.address(), nullptr), status::kOk);
+  EXPECT_EQ(item.text().view(), u"x");
+  walk->Release();
 }
 
 TEST(Collection, NothingIsHeldAfterTheLastReference) {

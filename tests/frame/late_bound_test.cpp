@@ -1,6 +1,8 @@
 // A small class of every kind of parameter, called through its slots' late-bound form as hosts do.
 #include <gtest/gtest.h>
 
+#include <limits>
+
 #include "frame/factory.h"
 #include "frame/method.h"
 #include "kwutils/error.h"
@@ -211,6 +213,53 @@ TEST_F(LateBound, ReferencesToNothingAreRefused) {
   EXPECT_EQ(invoke(7, {array}), status::kInvalidArgument);
   EXPECT_EQ(invoke(7, {reference_to(array)}), status::kInvalidArgument);
   EXPECT_EQ(bad, 0u);
+}
+
+TEST_F(LateBound, VariablesOfVariablesAreFollowed) {
+  Variant number(std::int32_t{2}), text(u"abc");
+  VARIANT inner = reference_to(*number.address());
+  EXPECT_EQ(invoke(0, {reference_to(inner), reference_to(inner)}), status::kOk);
+  EXPECT_EQ(result.to_int32(), 4);
+  inner = reference_to(*text.address());
+  EXPECT_EQ(invoke(1, {reference_to(inner)}), status::kOk);
+  EXPECT_EQ(text.text().view(), u"bc");
+  Variant missing = Variant::missing();
+  inner = reference_to(*missing.address());
+  EXPECT_EQ(invoke(5, {reference_to(inner)}), status::kOk);
+  EXPECT_TRUE(result.to_boolean());
+}
+
+TEST_F(LateBound, VariablesThatGoRoundInACircleAreRefused) {
+  VARIANT one = {}, other = reference_to(one);
+  one = reference_to(other);
+  EXPECT_EQ(invoke(0, {one, Variant(1.0).raw()}), status::kInvalidArgument);
+  EXPECT_EQ(bad, 0u);
+  EXPECT_EQ(invoke(1, {other}), status::kInvalidArgument);
+}
+
+TEST_F(LateBound, AVariableMaySayThatAnOptionalIsLeftOut) {
+  Variant missing = Variant::missing();
+  EXPECT_EQ(invoke(6, {reference_to(*missing.address())}), status::kOk);
+  EXPECT_TRUE(result.to_boolean());
+  EXPECT_EQ(invoke(4, {reference_to(*missing.address())}), status::kTypeMismatch);
+}
+
+TEST_F(LateBound, ThereIsNoResultWhereAChangeCannotGoBack) {
+  double number = 5;  // of its text nothing is left
+  VARIANT reference = {};
+  reference.vt = kVtByRef | kVtR8;
+  reference.pdblVal = &number;
+  EXPECT_EQ(invoke(1, {reference}), status::kTypeMismatch);
+  EXPECT_EQ(bad, 0u);
+  EXPECT_EQ(result.raw().vt, kVtEmpty);
+  EXPECT_EQ(number, 5);
+}
+
+TEST_F(LateBound, WhatIsNoNumberIsNoWholeOne) {
+  const double nan = std::numeric_limits<double>::quiet_NaN();
+  Variant variable(nan);
+  EXPECT_EQ(invoke(0, {Variant(1.0).raw(), Variant(nan).raw()}), status::kOverflow);
+  EXPECT_EQ(invoke(0, {reference_to(*variable.address()), Variant(1.0).raw()}), status::kOverflow);
 }
 
 TEST_F(LateBound, MalformedParametersAreRefused) {

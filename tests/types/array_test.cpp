@@ -46,6 +46,17 @@ TEST(Array, AbsurdSizesAreLackOfMemory) {
   EXPECT_EQ(number_of([&] { array.redim(-2147483647, 2147483647); }), 7);
 }
 
+// Its bytes would be a number that 32 bits cannot hold: a little more than nothing in them.
+TEST(Array, SizesBeyondTheCountOfBytesAreLackOfMemory) {
+  constexpr std::int32_t kMost = static_cast<std::int32_t>((std::int64_t{1} << 32) / sizeof(BSTR));
+  Array<String> array;
+  EXPECT_EQ(number_of([&] { array.redim(1, kMost); }), 7);
+  EXPECT_FALSE(array.dimensioned());
+  array.redim(1, 2);
+  EXPECT_EQ(number_of([&] { array.redim_preserve(1, kMost + 2); }), 7);
+  EXPECT_EQ(array.size(), 2u);
+}
+
 TEST(Array, LockedArraysKeepTheirBounds) {
   Array<String> array;
   array.redim(0, 1);

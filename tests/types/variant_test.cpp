@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <limits>
+
 #include "support/expect_error.h"
 
 namespace kw {
@@ -38,6 +40,13 @@ TEST(Variant, TruthReadsAsAWord) { EXPECT_EQ(Variant(Boolean(true)).text().view(
 TEST(Variant, OverflowAndMismatchAreErrorsOfTheirOwn) {
   EXPECT_EQ(error_of([] { Variant(40000.0).to_int16(); }).number, ErrorNumber::overflow);
   EXPECT_EQ(error_of([] { Variant(u"pump").to_int32(); }).number, ErrorNumber::type_mismatch);
+}
+
+TEST(Variant, WhatIsNoNumberIsNoWholeOne) {
+  const double nan = std::numeric_limits<double>::quiet_NaN();
+  EXPECT_EQ(error_of([&] { Variant(nan).to_int32(); }).number, ErrorNumber::overflow);
+  EXPECT_EQ(error_of([&] { Variant(static_cast<float>(nan)).to_int16(); }).number,
+            ErrorNumber::overflow);
 }
 
 TEST(Variant, StoreWritesIntoTheVariableReferredTo) {

@@ -78,6 +78,10 @@ TEST_F(WindowsReplacement, RefusesDevicesAndProtectedFiles) {
   EXPECT_EQ(folder_.list(), Names{"a.ent"});
 }
 
+TEST_F(WindowsReplacement, ReportsADriveThatIsNotThere) {
+  EXPECT_EQ(number_of([&] { files().create_replacement(u"Q:\\a.tmp", u"Q:\\a.ent"); }), 76);
+}
+
 TEST_F(WindowsReplacement, KeepsTheAttributesOfTheFile) {
   folder_.write("a.ent", "old");
   SetFileAttributesW(wide(folder_.name("a.ent")), FILE_ATTRIBUTE_HIDDEN);

@@ -44,7 +44,7 @@ Handle made_anew(const FileName& name) {
     if (file) throw_file_error(ERROR_ACCESS_DENIED, name.given);
     const DWORD code = GetLastError();
     if (code != ERROR_FILE_EXISTS && code != ERROR_ALREADY_EXISTS)
-      throw_file_error(code, name.given);
+      throw_lookup_error(code, name);
     remove_left_over(name);
   }
   throw_file_error(ERROR_SHARING_VIOLATION, name.given);
