@@ -223,6 +223,7 @@ TEST_F(LateBound, VariablesOfVariablesAreFollowed) {
   inner = reference_to(*text.address());
   EXPECT_EQ(invoke(1, {reference_to(inner)}), status::kOk);
   EXPECT_EQ(text.text().view(), u"bc");
+  result = Variant();
   Variant missing = Variant::missing();
   inner = reference_to(*missing.address());
   EXPECT_EQ(invoke(5, {reference_to(inner)}), status::kOk);
