@@ -21,6 +21,7 @@ set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS_POLICY ">=")
 
 set(library_package libkwutils${PROJECT_VERSION_MAJOR})
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_NAME ${library_package})
+set(CPACK_DEBIAN_RUNTIME_PACKAGE_CONTROL_EXTRA ${PROJECT_SOURCE_DIR}/packaging/debian/triggers)
 set(CPACK_COMPONENT_RUNTIME_DESCRIPTION
   "The automation library: eight classes that any program can create by name and\n\
 call through slots or late-bound.")
@@ -38,11 +39,15 @@ set(CPACK_COMPONENT_TOOL_DESCRIPTION
 set(documents ${CMAKE_INSTALL_DATAROOTDIR}/doc)
 # The packages alone have these: a plain "cmake --install" leaves them out.
 set(copyright ${PROJECT_SOURCE_DIR}/packaging/debian/copyright)
+set(CPACK_PACKAGE_VERSION ${PROJECT_VERSION})
+set(changelog ${PROJECT_BINARY_DIR}/changelog.Debian)
+configure_file(${PROJECT_SOURCE_DIR}/packaging/debian/changelog.in ${changelog} @ONLY)
+execute_process(COMMAND gzip --best --no-name --force ${changelog} COMMAND_ERROR_IS_FATAL ANY)
 foreach(part IN ITEMS runtime:${library_package} development:libkwutils-dev tool:kwutils)
   string(REPLACE ":" ";" part ${part})
   list(GET part 0 component)
   list(GET part 1 package)
-  install(FILES ${copyright} DESTINATION ${documents}/${package} COMPONENT ${component}
+  install(FILES ${copyright} ${changelog}.gz DESTINATION ${documents}/${package} COMPONENT ${component}
     EXCLUDE_FROM_ALL)
 endforeach()
 include(CPack)
