@@ -161,7 +161,7 @@ ExitCode run_call(Session& session, const CallOptions& options) {
 
 }  // namespace
 
-void add_call(CLI::App& app, Session& session) {
+void add_call(Arguments app, Session& session) {
   auto [line, options] = add_command<CallOptions>(
       app, session, "call", "Call any method of a class, late-bound",
       "kwutils call clsParse ParseToken \"id 'B 2' nm Outlet\" 2\n\n"

@@ -98,7 +98,7 @@ ExitCode run_check(Session& session, const CheckOptions& options) {
 
 }  // namespace
 
-void add_check(CLI::App& app, Session& session) {
+void add_check(Arguments app, Session& session) {
   auto [line, options] = add_command<CheckOptions>(
       app, session, "check", "Report what would surprise a reader of a file",
       "kwutils check plant.ent\n\n"
@@ -106,7 +106,7 @@ void add_check(CLI::App& app, Session& session) {
       "0\n"
       "clean, 1 findings.",
       &run_check);
-  line.add_option("FILE", options.path, "The entity file")->required();
+  line.add_option("FILE", options.path, "The entity file").required();
 }
 
 }  // namespace kw::tool

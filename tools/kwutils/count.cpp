@@ -72,7 +72,7 @@ ExitCode run_count(Session& session, const CountOptions& options) {
 
 }  // namespace
 
-void add_count(CLI::App& app, Session& session) {
+void add_count(Arguments app, Session& session) {
   auto [line, options] = add_command<CountOptions>(
       app, session, "count", "Count entities, or uses of an item's value",
       "kwutils count plant.ent NODE\n"
@@ -82,7 +82,7 @@ void add_count(CLI::App& app, Session& session) {
       &run_count);
   add_file(line, options.file);
   line.add_option("--item", options.item, "Count the uses of this value")
-      ->type_name("KEYWORD=VALUE");
+      .type_name("KEYWORD=VALUE");
   line.add_option("--id", options.id, "Count the uses of this identifier");
 }
 

@@ -98,7 +98,7 @@ ExitCode run_delete(Session& session, const DeleteOptions& options) {
 
 }  // namespace
 
-void add_delete(CLI::App& app, Session& session) {
+void add_delete(Arguments app, Session& session) {
   auto [line, options] = add_command<DeleteOptions>(
       app, session, "delete", "Remove entities",
       "kwutils delete plant.ent NODE B1 B2\n"

@@ -1,6 +1,5 @@
 #include <algorithm>
 #include <cstdio>
-#include <map>
 
 #include "tool/command.h"
 #include "tool/csv_writer.h"
@@ -62,9 +61,7 @@ ExitCode run_export(Session& session, const ExportOptions& options) {
 
 }  // namespace
 
-void add_export(CLI::App& app, Session& session) {
-  static const std::map<std::string, SourceFormat> formats = {{"csv", SourceFormat::csv},
-                                                              {"json", SourceFormat::json}};
+void add_export(Arguments app, Session& session) {
   auto [line, options] = add_command<ExportOptions>(
       app, session, "export", "Write the entities of a type as a table",
       "kwutils export regions.ent REGION > regions.csv\n\n"
@@ -74,9 +71,9 @@ void add_export(CLI::App& app, Session& session) {
       "is reported on standard error.",
       &run_export);
   add_file(line, options.file);
-  line.add_option("--format", options.format, "csv (else) or json")
-      ->transform(CLI::CheckedTransformer(formats))
-      ->type_name("FORMAT");
+  line.add_choice("--format", options.format, "csv (else) or json",
+                  {{"csv", SourceFormat::csv}, {"json", SourceFormat::json}})
+      .type_name("FORMAT");
 }
 
 }  // namespace kw::tool

@@ -101,7 +101,7 @@ ExitCode run_get(Session& session, const GetOptions& options) {
 
 }  // namespace
 
-void add_get(CLI::App& app, Session& session) {
+void add_get(Arguments app, Session& session) {
   auto [line, options] =
       add_command<GetOptions>(app, session, "get", "Show an entity, or one item of it",
                               "kwutils get plant.ent NODE B2\n"
@@ -112,11 +112,10 @@ void add_get(CLI::App& app, Session& session) {
                               &run_get);
   add_file(line, options.file);
   line.add_option("ID", options.id, "Identifier, or an item such as nm 'Outlet'");
-  line.add_option("--item", options.item, "Show the value of this item alone")
-      ->type_name("KEYWORD");
-  line.add_option("--by", options.by, "ID is the value of this item")->type_name("KEYWORD");
+  line.add_option("--item", options.item, "Show the value of this item alone").type_name("KEYWORD");
+  line.add_option("--by", options.by, "ID is the value of this item").type_name("KEYWORD");
   line.add_option("--at", options.at, "Look from this byte of the file on, counted from 1")
-      ->type_name("POSITION");
+      .type_name("POSITION");
   line.add_flag("--without-table", options.without_table,
                 "Leave the table out; ID is then compared to the letter");
 }

@@ -1,5 +1,4 @@
 #include <algorithm>
-#include <map>
 
 #include "tool/command.h"
 #include "tool/failure.h"
@@ -105,9 +104,7 @@ ExitCode run_import(Session& session, const ImportOptions& options) {
 
 }  // namespace
 
-void add_import(CLI::App& app, Session& session) {
-  static const std::map<std::string, SourceFormat> formats = {{"csv", SourceFormat::csv},
-                                                              {"json", SourceFormat::json}};
+void add_import(Arguments app, Session& session) {
   auto [line, options] = add_command<ImportOptions>(
       app, session, "import", "Store the rows of a table as entities of a type",
       "kwutils import regions.ent REGION iso_3166-2.json --id-column code --name-column name\n\n"
@@ -117,14 +114,14 @@ void add_import(CLI::App& app, Session& session) {
       "back. Rows whose identifier the file holds replace those entities.",
       &run_import);
   add_file(line, options.file);
-  line.add_option("SOURCE", options.source, "The table; -: standard input")->required();
+  line.add_option("SOURCE", options.source, "The table; -: standard input").required();
   line.add_option("--id-column", options.columns.id, "The column of identifiers; else 'id'")
-      ->type_name("COLUMN");
+      .type_name("COLUMN");
   line.add_option("--name-column", options.columns.name, "The column of names; else 'nm', if any")
-      ->type_name("COLUMN");
-  line.add_option("--format", options.format, "What SOURCE is: csv or json; else told by itself")
-      ->transform(CLI::CheckedTransformer(formats))
-      ->type_name("FORMAT");
+      .type_name("COLUMN");
+  line.add_choice("--format", options.format, "What SOURCE is: csv or json; else told by itself",
+                  {{"csv", SourceFormat::csv}, {"json", SourceFormat::json}})
+      .type_name("FORMAT");
   line.add_flag("--transliterate", options.transliterate,
                 "Store the nearest spelling of what cannot be stored");
   line.add_flag("--strict", options.strict, "Store nothing unless every row can be stored");

@@ -2,8 +2,8 @@
 
 namespace kw::tool {
 
-void add_ini(CLI::App& app, Session& session) {
-  CLI::App& ini =
+void add_ini(Arguments app, Session& session) {
+  const Arguments ini =
       add_group(app, "ini", "Read and change INI files", "kwutils ini get plant.ini Pump Flow");
   add_ini_get(ini, session);
   add_ini_set(ini, session);

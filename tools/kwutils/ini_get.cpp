@@ -62,7 +62,7 @@ ExitCode run_get(Session& session, const IniOptions& options) {
 
 }  // namespace
 
-void add_ini_get(CLI::App& ini, Session& session) {
+void add_ini_get(Arguments ini, Session& session) {
   auto [line, options] = add_command<IniOptions>(
       ini, session, "get", "Show a value",
       "kwutils ini get plant.ini Pump Flow\n"
@@ -73,10 +73,9 @@ void add_ini_get(CLI::App& ini, Session& session) {
   line.add_option(
           "--type", options.type,
           "Check the value: string, boolean, integer (16 bits), long (32 bits), single or double")
-      ->check(CLI::IsMember({"string", "boolean", "bool", "integer", "long", "single", "double"},
-                            CLI::ignore_case));
+      .one_of({"string", "boolean", "bool", "integer", "long", "single", "double"});
   line.add_option("--default", options.fallback, "What to show where there is no value")
-      ->type_name("VALUE");
+      .type_name("VALUE");
 }
 
 }  // namespace kw::tool

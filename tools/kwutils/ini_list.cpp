@@ -45,14 +45,14 @@ ExitCode run_list(Session& session, const IniOptions& options) {
 
 }  // namespace
 
-void add_ini_list(CLI::App& ini, Session& session) {
+void add_ini_list(Arguments ini, Session& session) {
   auto [line, options] = add_command<IniOptions>(
       ini, session, "list", "List the sections with how many keys they have, or those of a section",
       "kwutils ini list plant.ini\n"
       "  kwutils ini list plant.ini Pump\n\n"
       "What look-ups do not see is left out: the second section, or key, of the same name.",
       &run_list);
-  line.add_option("FILE", options.path, "The INI file")->required();
+  line.add_option("FILE", options.path, "The INI file").required();
   line.add_option("SECTION", options.section, "The section, in any case");
 }
 

@@ -55,10 +55,10 @@ ExitCode not_found(Session& session, const IniOptions& options) {
   return ExitCode::not_found;
 }
 
-void add_entry(CLI::App& line, IniOptions& options) {
-  line.add_option("FILE", options.path, "The INI file")->required();
-  line.add_option("SECTION", options.section, "The section, in any case")->required();
-  line.add_option("KEY", options.key, "The key, in any case")->required();
+void add_entry(Arguments line, IniOptions& options) {
+  line.add_option("FILE", options.path, "The INI file").required();
+  line.add_option("SECTION", options.section, "The section, in any case").required();
+  line.add_option("KEY", options.key, "The key, in any case").required();
 }
 
 }  // namespace kw::tool

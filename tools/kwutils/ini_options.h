@@ -41,11 +41,11 @@ std::optional<std::string> content_if_any(const IniOptions& options);
 ExitCode not_found(Session& session, const IniOptions& options);
 
 // The positional arguments FILE, SECTION and KEY.
-void add_entry(CLI::App& line, IniOptions& options);
+void add_entry(Arguments line, IniOptions& options);
 
-void add_ini_get(CLI::App& ini, Session& session);
-void add_ini_list(CLI::App& ini, Session& session);
-void add_ini_remove(CLI::App& ini, Session& session);
-void add_ini_set(CLI::App& ini, Session& session);
+void add_ini_get(Arguments ini, Session& session);
+void add_ini_list(Arguments ini, Session& session);
+void add_ini_remove(Arguments ini, Session& session);
+void add_ini_set(Arguments ini, Session& session);
 
 }  // namespace kw::tool

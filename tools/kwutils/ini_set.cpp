@@ -92,7 +92,7 @@ ExitCode run_remove(Session& session, const IniOptions& options) {
 
 }  // namespace
 
-void add_ini_set(CLI::App& ini, Session& session) {
+void add_ini_set(Arguments ini, Session& session) {
   auto [line, options] = add_command<IniOptions>(
       ini, session, "set", "Write a value",
       "kwutils ini set plant.ini Pump Flow 12.5\n\n"
@@ -101,11 +101,11 @@ void add_ini_set(CLI::App& ini, Session& session) {
       "quotes is written in quotes.",
       &run_set);
   add_entry(line, options);
-  line.add_option("VALUE", options.value, "The value")->required();
+  line.add_option("VALUE", options.value, "The value").required();
   add_rewrite_options(line, options.rewrite);
 }
 
-void add_ini_remove(CLI::App& ini, Session& session) {
+void add_ini_remove(Arguments ini, Session& session) {
   auto [line, options] =
       add_command<IniOptions>(ini, session, "remove", "Remove a key",
                               "kwutils ini remove plant.ini Pump Flow", &run_remove);

@@ -76,18 +76,18 @@ ExitCode run_ids(Session& session, const EntityFile& file) {
 
 }  // namespace
 
-void add_list(CLI::App& app, Session& session) {
+void add_list(Arguments app, Session& session) {
   auto [line, file] = add_command<EntityFile>(
       app, session, "list", "List the types of a file with their counts, or the entities of a type",
       "kwutils list plant.ent\n"
       "  kwutils list plant.ent NODE\n\n"
       "Entities are shown as identifier and name (items id and nm), a tab between them.",
       &run_list);
-  line.add_option("FILE", file.path, "The entity file")->required();
+  line.add_option("FILE", file.path, "The entity file").required();
   line.add_option("TYPE", file.type, "Type of the entities, in any case");
 }
 
-void add_ids(CLI::App& app, Session& session) {
+void add_ids(Arguments app, Session& session) {
   auto [line, file] =
       add_command<EntityFile>(app, session, "ids", "List the identifiers of a type, each once",
                               "kwutils ids plant.ent NODE", &run_ids);

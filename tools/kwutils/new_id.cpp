@@ -31,7 +31,7 @@ ExitCode run_new_id(Session& session, const NewIdOptions& options) {
 
 }  // namespace
 
-void add_new_id(CLI::App& app, Session& session) {
+void add_new_id(Arguments app, Session& session) {
   auto [line, options] = add_command<NewIdOptions>(
       app, session, "new-id", "Choose an identifier that no entity of a type has",
       "kwutils new-id plant.ent NODE\n"

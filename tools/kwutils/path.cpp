@@ -83,22 +83,22 @@ ExitCode run_split(Session& session, const PathOptions& options) {
   return ExitCode::done;
 }
 
-void add_path_option(CLI::App& line, PathOptions& options) {
-  line.add_option("PATH", options.path, "The path")->required();
+void add_path_option(Arguments line, PathOptions& options) {
+  line.add_option("PATH", options.path, "The path").required();
 }
 
-void add_base(CLI::App& line, PathOptions& options) {
+void add_base(Arguments line, PathOptions& options) {
   line.add_option("--base", options.base,
                   "A file in the folder from which the path counts, or that folder with a '\\' at "
                   "its end; else the current directory")
-      ->type_name("NAME");
+      .type_name("NAME");
 }
 
 }  // namespace
 
-void add_path(CLI::App& app, Session& session) {
-  CLI::App& path = add_group(app, "path", "Convert and split paths as Windows writes them",
-                             "kwutils path abs 'data\\in.txt' --base 'D:\\proj\\model.ini'");
+void add_path(Arguments app, Session& session) {
+  const Arguments path = add_group(app, "path", "Convert and split paths as Windows writes them",
+                                   "kwutils path abs 'data\\in.txt' --base 'D:\\proj\\model.ini'");
   auto [abs, abs_options] =
       add_command<PathOptions>(path, session, "abs", "Make a path absolute",
                                "kwutils path abs 'data\\in.txt' --base 'D:\\proj\\model.ini'\n\n"

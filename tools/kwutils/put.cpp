@@ -108,7 +108,7 @@ ExitCode run_put(Session& session, const PutOptions& options) {
 
 }  // namespace
 
-void add_put(CLI::App& app, Session& session) {
+void add_put(Arguments app, Session& session) {
   auto [line, options] = add_command<PutOptions>(
       app, session, "put", "Replace an entity, or add it at the end of the file",
       "kwutils put plant.ent NODE B3 \"nm=Well 'North'\" ln=120.5\n"
@@ -116,8 +116,8 @@ void add_put(CLI::App& app, Session& session) {
       "Values are quoted as the notation needs it. A file that is missing is made.",
       &run_put);
   add_file(line, options.file);
-  line.add_option("ID", options.id, "Its identifier")->required();
-  line.add_option("ITEM", options.items, "Its other items")->type_name("KEYWORD=VALUE");
+  line.add_option("ID", options.id, "Its identifier").required();
+  line.add_option("ITEM", options.items, "Its other items").type_name("KEYWORD=VALUE");
   line.add_option("--text", options.text,
                   "Its text as it shall stand in the file; -: standard input");
   add_entity_rewrite_options(line, options.rewrite);

@@ -85,7 +85,7 @@ ExitCode run_unregister(Session& session, const RegisterOptions& options) {
 
 }  // namespace
 
-void add_registration(CLI::App& app, Session& session) {
+void add_registration(Arguments app, Session& session) {
   auto [entry, options] = add_command<RegisterOptions>(
       app, session, "register", "Enter the classes into the registry, so that programs find them",
       "kwutils register", &run_register);

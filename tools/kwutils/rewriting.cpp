@@ -262,17 +262,17 @@ void show_diff(Session& session, const std::string& file, std::string_view befor
   }
 }
 
-void add_rewrite_options(CLI::App& line, RewriteOptions& options) {
+void add_rewrite_options(Arguments line, RewriteOptions& options) {
   line.add_flag("--dry-run", options.dry_run, "Show what would change, as a diff; change nothing");
   line.add_option("--backup", options.backup, "Keep the old file under its name and this suffix")
-      ->type_name("[=SUFFIX]");
+      .type_name("[=SUFFIX]");
   line.add_option("--wait", options.wait,
                   "How long to wait for another writer of the file; else 10")
-      ->type_name("SECONDS")
-      ->check(&check_seconds, "", "");
+      .type_name("SECONDS")
+      .check(&check_seconds);
 }
 
-void add_entity_rewrite_options(CLI::App& line, RewriteOptions& options) {
+void add_entity_rewrite_options(Arguments line, RewriteOptions& options) {
   add_rewrite_options(line, options);
   line.add_flag("--force", options.force, "Let a file named 'tmp' be lost as the temporary file");
 }

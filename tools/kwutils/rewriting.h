@@ -17,8 +17,8 @@ struct RewriteOptions {
 };
 
 // The options of commands that rewrite a file; for entity files, --force is one of them.
-void add_rewrite_options(CLI::App& line, RewriteOptions& options);
-void add_entity_rewrite_options(CLI::App& line, RewriteOptions& options);
+void add_rewrite_options(Arguments line, RewriteOptions& options);
+void add_entity_rewrite_options(Arguments line, RewriteOptions& options);
 
 // Answers with what differs between two contents of a file.
 void show_diff(Session& session, const std::string& file, std::string_view before,

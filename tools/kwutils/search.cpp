@@ -166,7 +166,7 @@ ExitCode run_search(Session& session, const SearchOptions& options) {
 
 }  // namespace
 
-void add_search(CLI::App& app, Session& session) {
+void add_search(Arguments app, Session& session) {
   auto [line, options] = add_command<SearchOptions>(
       app, session, "search", "List identifiers, names and further items of entities",
       "kwutils search plant.ent NODE --where nm=Outlet --item ln --seek\n\n"
@@ -176,16 +176,16 @@ void add_search(CLI::App& app, Session& session) {
       &run_search);
   add_file(line, options.file);
   line.add_option("--where", options.where, "Only entities with this value, to the letter")
-      ->type_name("KEYWORD=VALUE");
+      .type_name("KEYWORD=VALUE");
   line.add_option("--item", options.items, "Show this item, too; may be repeated")
-      ->type_name("KEYWORD")
-      ->allow_extra_args(false);
+      .type_name("KEYWORD")
+      .single();
   line.add_option("--id-item", options.id_item, "The item of the identifiers; else id")
-      ->type_name("KEYWORD");
+      .type_name("KEYWORD");
   line.add_option("--name-item", options.name_item, "The item of the names; else nm")
-      ->type_name("KEYWORD");
+      .type_name("KEYWORD");
   line.add_option("--part", options.part, "List the parts of this type inside the entities")
-      ->type_name("TYPE");
+      .type_name("TYPE");
   line.add_flag("--seek", options.seek, "Show where in the file each entity begins, from 1");
 }
 

@@ -114,7 +114,7 @@ ExitCode run_sort(Session& session, const SortOptions& options) {
 
 }  // namespace
 
-void add_sort(CLI::App& app, Session& session) {
+void add_sort(Arguments app, Session& session) {
   auto [line, options] = add_command<SortOptions>(
       app, session, "sort", "Sort lines of text or numbers",
       "kwutils sort names.txt\n"
@@ -124,9 +124,10 @@ void add_sort(CLI::App& app, Session& session) {
       "as they are; each must be a number where numbers are sorted.",
       &run_sort);
   line.add_option("FILE", options.path, "The lines; else, and for -, standard input");
-  auto* numbers = line.add_flag("-n,--numbers", options.numbers, "Compare numbers, not text");
+  const Argument numbers =
+      line.add_flag("-n,--numbers", options.numbers, "Compare numbers, not text");
   line.add_flag("--binary", options.binary, "Compare text by character codes, with regard to case")
-      ->excludes(numbers);
+      .excludes(numbers);
   line.add_flag("-r,--descending", options.descending, "The last comes first");
   line.add_flag("--index", options.index, "Show the lines' numbers, from 1, instead of the lines");
 }

@@ -100,7 +100,7 @@ ExitCode run_table(Session& session, const TableOptions& options) {
 
 }  // namespace
 
-void add_table(CLI::App& app, Session& session) {
+void add_table(Arguments app, Session& session) {
   auto [line, options] = add_command<TableOptions>(
       app, session, "table", "Show the table of an entity",
       "kwutils table plant.ent NODE B2 --plot\n"
@@ -109,10 +109,10 @@ void add_table(CLI::App& app, Session& session) {
       &run_table);
   add_file(line, options.file);
   line.add_option("ID", options.id, "Identifier; else the first entity of the type");
-  auto* csv = line.add_flag("--csv", options.csv, "Comma-separated values");
-  auto* plot = line.add_flag("--plot", options.plot, "Draw the table on the terminal");
-  csv->excludes(plot);
-  line.add_option("--svg", options.svg, "Draw the table into this file")->type_name("FILE");
+  const Argument csv = line.add_flag("--csv", options.csv, "Comma-separated values");
+  const Argument plot = line.add_flag("--plot", options.plot, "Draw the table on the terminal");
+  csv.excludes(plot);
+  line.add_option("--svg", options.svg, "Draw the table into this file").type_name("FILE");
 }
 
 }  // namespace kw::tool

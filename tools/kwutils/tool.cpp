@@ -1,5 +1,6 @@
 #include "tool/tool.h"
 
+#include <CLI/CLI.hpp>
 #include <algorithm>
 #include <exception>
 #include <optional>
@@ -12,7 +13,7 @@
 namespace kw::tool {
 namespace {
 
-void add_commands(CLI::App& app, Session& session) {
+void describe(CLI::App& app) {
   app.name("kwutils");
   app.allow_windows_style_options(false);  // "/" begins a path or a text, on every system
   app.require_subcommand(1);
@@ -20,6 +21,9 @@ void add_commands(CLI::App& app, Session& session) {
   app.footer(
       "'kwutils COMMAND --help' explains a command and shows an example.\n"
       "Exit status: 0 found or done, 1 not found, 2 wrong usage, 3 a file or its content failed.");
+}
+
+void add_commands(Arguments app, Session& session) {
   add_list(app, session);
   add_get(app, session);
   add_ids(app, session);
@@ -97,7 +101,8 @@ ExitCode run_tool(std::vector<std::string> words, std::FILE* out, std::FILE* err
   std::optional<platform::ScopedFileService> scope;
   if (session.progress.watched()) scope.emplace(files);
   session.call_arguments = std::move(line.call_arguments);
-  add_commands(app, session);
+  describe(app);
+  add_commands(Arguments(&app), session);
   try {
     const ExitCode code = parse(app, std::move(line.words), session);
     session.out.flush();

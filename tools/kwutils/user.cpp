@@ -27,7 +27,7 @@ ExitCode run_user(Session& session, const UserOptions&) {
 
 }  // namespace
 
-void add_user(CLI::App& app, Session& session) {
+void add_user(Arguments app, Session& session) {
   add_command<UserOptions>(app, session, "user", "Show who runs the tool",
                            "kwutils user\n\nThe log-in name, in upper case.", &run_user);
 }
