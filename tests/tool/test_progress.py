@@ -14,20 +14,22 @@ PIECES = 12
 
 
 class Progress(ToolCase):
-    def feed(self):
+    def feed(self, pipe):
         """Writes an entity file so slowly that reading it takes more than a second."""
-        with open(self.folder / "slow.ent", "wb", buffering=0) as pipe:
-            for number in range(PIECES):
-                pipe.write(f"NODE id '{number}' node\r\n".encode() * 500)
-                time.sleep(0.1)
+        for number in range(PIECES):
+            os.write(pipe, f"NODE id '{number}' node\r\n".encode() * 500)
+            time.sleep(0.1)
+        os.close(pipe)
 
     def list_slowly(self, errors):
         os.mkfifo(self.folder / "slow.ent")
-        feeder = threading.Thread(target=self.feed)
+        # Open before the tool looks: a pipe that nobody writes to is at its end at once.
+        pipe = os.open(self.folder / "slow.ent", os.O_RDWR)
+        feeder = threading.Thread(target=self.feed, args=(pipe,), daemon=True)
         feeder.start()
         answer = subprocess.run([*TOOL, "list", "slow.ent"], cwd=self.folder, stdout=subprocess.PIPE,
                                 stderr=errors, timeout=60, check=False)
-        feeder.join()
+        feeder.join(10)
         self.assertEqual((answer.returncode, answer.stdout), (DONE, b"NODE\t%d\n" % (500 * PIECES)))
         return answer.stderr
 
