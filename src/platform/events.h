@@ -7,8 +7,10 @@ namespace kw::platform {
 // measurable where the host has set no function.
 void process_events();
 
-// Whether the host has set a function for that, and so can tell how often it is asked. The system's
-// own queue is as well looked after now and then.
-bool host_wants_turns() noexcept;
+// Who has messages to process: nobody; the system's queue, for which it is enough to be asked at
+// least as often as records are read; or a function of the host, which can tell how often it is
+// asked.
+enum class Turns { nobody, system, host };
+Turns turns() noexcept;
 
 }  // namespace kw::platform

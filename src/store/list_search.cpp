@@ -1,8 +1,6 @@
 #include "store/list_search.h"
 
-#include <memory>
 #include <string>
-#include <utility>
 
 #include "base/case_map.h"
 #include "base/code_page.h"
@@ -15,28 +13,21 @@ namespace kw::store {
 
 namespace {
 
-// Lets the host process its pending messages whenever more of the file is read.
-class InputWithTurns : public platform::InputFile {
- public:
-  explicit InputWithTurns(std::unique_ptr<platform::InputFile> file) : file_(std::move(file)) {}
-  std::size_t read(char* buffer, std::size_t size) override {
-    if (!platform::host_wants_turns()) platform::process_events();
-    return file_->read(buffer, size);
-  }
-  void seek(std::int64_t position) override { file_->seek(position); }
-  std::int64_t size_hint() override { return file_->size_hint(); }
-
- private:
-  std::unique_ptr<platform::InputFile> file_;
-};
-
-std::unique_ptr<platform::InputFile> input_with_turns(std::u16string_view file) {
-  return std::make_unique<InputWithTurns>(platform::files().open_input(file));
-}
-
-// Goes on to the next entity, with a turn for the host after each record where it wants that.
+// Goes on to the next entity, with a turn for the host after each record read. The host's function
+// is called for exactly those that may open a block; the system's queue for any.
 bool next_entity(Scan& scan, std::string_view& record) {
-  if (!platform::host_wants_turns()) return scan.walk.next(record);
+  switch (platform::turns()) {
+    case platform::Turns::nobody:
+      return scan.walk.next(record);
+    case platform::Turns::system:
+      platform::process_events();
+      return scan.walk.next_but(record, [](const char*) {
+        platform::process_events();
+        return false;
+      });
+    case platform::Turns::host:
+      break;
+  }
   return scan.walk.next_candidate(record, [](std::string_view) {
     platform::process_events();
     return true;
@@ -84,7 +75,7 @@ class Parts {
 }  // namespace
 
 void list_entities(std::u16string_view file, std::u16string_view token, EntityLister& lister) {
-  Scan scan(input_with_turns(file), TypeWord(token));
+  Scan scan(file, TypeWord(token));
   std::string_view record;
   while (next_entity(scan, record)) {
     lister.take(record, scan.walk.position());
@@ -94,7 +85,7 @@ void list_entities(std::u16string_view file, std::u16string_view token, EntityLi
 
 void list_parts(std::u16string_view file, std::u16string_view token, std::u16string_view part_token,
                 EntityLister& lister) {
-  Scan scan(input_with_turns(file), TypeWord(token));
+  Scan scan(file, TypeWord(token));
   Parts parts(part_token, lister);
   std::string_view record;
   while (next_entity(scan, record)) {
@@ -103,7 +94,7 @@ void list_parts(std::u16string_view file, std::u16string_view token, std::u16str
       parts.take_record(record);
       if (scan.records.at_end()) return;
       record = scan.records.next();
-      if (platform::host_wants_turns()) platform::process_events();
+      platform::process_events();
     }
     parts.take_record(scan.closing().without(record));
   }

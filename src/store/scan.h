@@ -14,11 +14,8 @@ namespace kw::store {
 struct Scan {
   // Errors as FileService::open_input.
   Scan(std::u16string_view file, TypeWord sought, SixLetters header = SixLetters::first_record)
-      : Scan(platform::files().open_input(file), std::move(sought), header) {}
-  Scan(std::unique_ptr<platform::InputFile> file, TypeWord sought,
-       SixLetters header = SixLetters::first_record)
       : type(std::move(sought)),
-        input(std::move(file)),
+        input(platform::files().open_input(file)),
         records(*input),
         walk(records, type, header) {}
   Scan(const Scan&) = delete;

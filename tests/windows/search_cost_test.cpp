@@ -1,5 +1,5 @@
 // What it costs a search that the host's messages are looked after. The search and the system's
-// pump are those of the library; only the question whether a host wants any turn is answered here.
+// pump are those of the library; only the question who has messages is answered here.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -12,20 +12,22 @@
 
 // The functions under test, under other names: this program answers for them.
 #define process_events system_process_events
-#define host_wants_turns system_host_wants_turns
+#define turns system_turns
 #include "platform/windows/events.cpp"
 #undef process_events
-#undef host_wants_turns
+#undef turns
 
 namespace kw::platform {
 namespace {
 bool g_pumps = true;
-}
+int g_turns = 0;
+}  // namespace
 
 void process_events() {
+  ++g_turns;
   if (g_pumps) system_process_events();
 }
-bool host_wants_turns() noexcept { return g_pumps && system_host_wants_turns(); }
+Turns turns() noexcept { return g_pumps ? system_turns() : Turns::nobody; }
 
 }  // namespace kw::platform
 
@@ -69,6 +71,15 @@ TEST_F(SearchCost, MessagesAreHandledMeanwhile) {
   EXPECT_EQ(g_handled, 0);
   search(true);
   EXPECT_EQ(g_handled, 1);
+}
+
+TEST_F(SearchCost, EveryRecordIsFollowedByATurn) {
+  platform::g_turns = 0;
+  search(true);
+  EXPECT_GE(platform::g_turns, kRecords);
+  platform::g_turns = 0;
+  search(false);
+  EXPECT_EQ(platform::g_turns, 0);
 }
 
 TEST_F(SearchCost, IsAtMostTwiceThatWithoutThePump) {

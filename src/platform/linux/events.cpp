@@ -9,6 +9,8 @@ void process_events() {
   if (host.process_events != nullptr) host.process_events(host.context);
 }
 
-bool host_wants_turns() noexcept { return host_functions().process_events != nullptr; }
+Turns turns() noexcept {
+  return host_functions().process_events != nullptr ? Turns::host : Turns::nobody;
+}
 
 }  // namespace kw::platform

@@ -15,10 +15,18 @@ constexpr int kMostQuestionsInOneTick = 16;
 bool worth_asking() {
   static std::atomic<ULONGLONG> tick{0};
   static std::atomic<int> questions{0};
+  // Asked after every record: another thread's search may spoil the count a little, but does not
+  // have to be waited for.
+  constexpr auto kRelaxed = std::memory_order_relaxed;
   const ULONGLONG now = GetTickCount64();
-  if (tick.exchange(now, std::memory_order_relaxed) != now)
-    questions.store(0, std::memory_order_relaxed);
-  return questions.fetch_add(1, std::memory_order_relaxed) < kMostQuestionsInOneTick;
+  if (tick.load(kRelaxed) != now) {
+    tick.store(now, kRelaxed);
+    questions.store(0, kRelaxed);
+  }
+  const int asked = questions.load(kRelaxed);
+  if (asked >= kMostQuestionsInOneTick) return false;
+  questions.store(asked + 1, kRelaxed);
+  return true;
 }
 
 bool anything_waits() { return HIWORD(GetQueueStatus(QS_ALLINPUT)) != 0; }
@@ -44,6 +52,8 @@ void process_events() {
   if (worth_asking() && anything_waits()) pump();
 }
 
-bool host_wants_turns() noexcept { return host_functions().process_events != nullptr; }
+Turns turns() noexcept {
+  return host_functions().process_events != nullptr ? Turns::host : Turns::system;
+}
 
 }  // namespace kw::platform
