@@ -28,14 +28,29 @@ inline constexpr std::size_t kRadixFrom = 32 * sizeof(T);
 // From so many 16-bit numbers on the counts of all values pay.
 inline constexpr std::size_t kCountingFrom = 16384;
 
+// Whether each number may stand before the next one: bool fits(number, next). Several are compared
+// without a branch; most others are refused after the first few.
+template <class T, class Fits>
+bool all_fit(const T* numbers, std::size_t count, Fits fits) {
+  constexpr std::size_t kGroup = 8;
+  std::size_t k = 1;
+  for (; k + kGroup <= count; k += kGroup) {
+    unsigned bad = 0;
+    for (std::size_t i = k; i < k + kGroup; ++i) bad |= fits(numbers[i - 1], numbers[i]) ? 0u : 1u;
+    if (bad != 0) return false;
+  }
+  for (; k < count; ++k)
+    if (!fits(numbers[k - 1], numbers[k])) return false;
+  return true;
+}
+
 // Sorts numbers that are already in order, or in the opposite order; false for all others, most
 // often after a few of them.
 template <class T>
 bool sort_presorted(T* numbers, std::size_t count) {
-  T* const end = numbers + count;
-  if (std::is_sorted(numbers, end)) return true;
-  if (!std::is_sorted(numbers, end, std::greater<>())) return false;
-  std::reverse(numbers, end);
+  if (all_fit(numbers, count, std::less_equal<>())) return true;
+  if (!all_fit(numbers, count, std::greater_equal<>())) return false;
+  std::reverse(numbers, numbers + count);
   return true;
 }
 
@@ -93,10 +108,7 @@ void sort_any_numbers(const Bounded<T>& values) {
 // others after a few of them.
 template <Direction kDirection, class T>
 bool in_strict_order(const T* numbers, std::size_t count) {
-  const NumberOrder<kDirection> before;
-  for (std::size_t k = 1; k < count; ++k)
-    if (!before(numbers[k - 1], numbers[k])) return false;
-  return true;
+  return all_fit(numbers, count, NumberOrder<kDirection>{});
 }
 
 template <Direction kDirection, std::floating_point T>
